@@ -1,0 +1,201 @@
+#ifndef CKX_XLATE_H
+#define CKX_XLATE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "KxXlateExport.h"
+
+/// Size of a caller's buffer in bytes, the terminating NUL included; 32 bits on every platform.
+#if defined(_WIN32)
+using KxSize = unsigned long;
+#else
+using KxSize = std::uint32_t;
+#endif
+
+/// The texts of one bundle (a named set of messages) in one language.
+///
+/// Translators come from GetBundle and GetLanguage, are shared by everybody who asked for the same
+/// texts, and are counted: each pointer that the library hands out carries one reference, which
+/// its holder gives back with Release. Never delete a translator.
+///
+/// Every `const char*` that a translator answers belongs to it and stays valid for as long as the
+/// caller holds its reference. Texts are byte strings, UTF-8 or the character set that GetCharset
+/// names, and end with NUL.
+///
+/// All operations are safe from any thread while the caller holds a reference. Lookups report
+/// nothing to the caller but "not found"; only std::bad_alloc may leave an operation.
+///
+/// Hosts call the virtual operations by their position in the table, in the order below (slots 0
+/// to 18), so the order is frozen.
+///
+///     if (CKxXlate* texts = CKxXlate::GetBundle("agent", "fr-CA")) {
+///       char line[128];
+///       texts->GetText(line, sizeof line, "LOGIN_PROMPT", "User name");
+///       texts->Release();
+///     }
+class KXXLATE_API CKxXlate {
+ public:
+  /// Gives one reference back. The last one destroys the translator: neither it nor any text
+  /// obtained from it may be used afterwards. Slot 0.
+  virtual void Release() = 0;
+
+  /// Takes one more reference, to be given back with Release. Slot 1.
+  virtual void AddRef() = 0;
+
+  /// The bundle's name. Never null. Slot 2.
+  virtual const char* GetName() = 0;
+
+  /// The language code, such as "fr"; "" when the texts belong to no language. Slot 3.
+  virtual const char* GetLanguageCode() = 0;
+
+  /// The country code, such as "CA"; "" when there is none. Slot 4.
+  virtual const char* GetCountryCode() = 0;
+
+  /// The language's name for people, or null. Slot 5.
+  virtual const char* GetLongName() = 0;
+
+  /// The character set of the texts, or null, which means UTF-8. Slot 6.
+  virtual const char* GetCharset() = 0;
+
+  /// A number that is new whenever a language was read again; 0 for texts that never change.
+  /// Slot 7.
+  virtual std::uint32_t GetId() = 0;
+
+  /// Where the language's images lie, or null. Slot 8.
+  virtual const char* GetImageDirectory() = 0;
+
+  /// The writing direction, "LTR" or "RTL"; "" or null when not given. Slot 9.
+  virtual const char* GetDirection() = 0;
+
+  /// The text put behind prompts, such as ":", or null. Slot 10.
+  virtual const char* GetPromptSuffix() = 0;
+
+  // Slots 11 to 16 are three pairs of overloads: the first of a pair answers a pointer, the second
+  // copies into the caller's buffer. Microsoft's compiler lays overloads of one name out in reverse
+  // order of declaration, all others in the order of declaration; hence the two blocks.
+  //
+  // The rule of every copy: at most `size` - 1 bytes are copied, a longer text is cut (possibly
+  // inside a UTF-8 sequence), and `dst` always ends with NUL. `size` counts that NUL; a null `dst`
+  // or a size of 0 writes nothing and answers false. The result tells whether the key was found,
+  // never whether the text fitted.
+  //
+  //   GetDirectory  the path listed under `name` (any case); null, or "" and false, when absent
+  //   GetText       the message text of `key` (any case). When absent: null; into a buffer `dflt`,
+  //                 or "" if that is null, and false. A key that is not found is written to the
+  //                 log once for each translator.
+  //   GetLabel      the button label of `key` (any case); null, or "" and false, when absent
+  //
+  // Null keys are never found.
+#if defined(_MSC_VER)
+  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;                  // 12
+  virtual const char* GetDirectory(const char* name) = 0;                                   // 11
+  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;      // 14
+  virtual const char* GetText(const char* key) = 0;                                         // 13
+  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                       // 16
+  virtual const char* GetLabel(const char* key) = 0;                                        // 15
+#else
+  virtual const char* GetDirectory(const char* name) = 0;                                   // 11
+  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;                  // 12
+  virtual const char* GetText(const char* key) = 0;                                         // 13
+  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;      // 14
+  virtual const char* GetLabel(const char* key) = 0;                                        // 15
+  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                       // 16
+#endif
+
+  /// As GetText into a buffer; then the prompt suffix is appended if there is one, `dst` is not
+  /// empty, and both fit whole. Translators of property bundles have no prompts: they answer "" and
+  /// false and do not use `dflt`. Slot 17.
+  virtual bool GetPrompt(char* dst, KxSize size, const char* key, const char* dflt) = 0;
+
+  /// Copies nothing: a translator has no state that could be assigned from outside.
+  CKxXlate& operator=(const CKxXlate& other);
+
+  CKxXlate(const CKxXlate& other);
+
+  /// Finds the translator of a bundle for a locale.
+  ///
+  /// The locale falls back: "fr-CA" is answered by the texts for fr-CA, else by those for fr, else
+  /// by the bundle's default (the file without a locale, or else the English one).
+  ///
+  /// @param name    the bundle's name, in its exact case; null or "" answers null
+  /// @param locale  "fr", "fr-CA" or "fr_CA", in any case; null and "" ask for the default
+  /// @return a translator with one reference for the caller, to be given back with Release; null
+  ///         when there are no texts for the name and locale
+  ///
+  /// Any thread, at any time. The first call for a file reads it, while other callers of that file
+  /// wait; later calls read nothing and allocate nothing. A file is read once and never again.
+  /// Problems in the file go to standard error. Throws std::bad_alloc only.
+  static CKxXlate* GetBundle(const char* name, const char* locale);
+
+  /// As GetBundle, for a language and a region given apart.
+  ///
+  /// @param name      the bundle's name, in its exact case; null or "" answers null
+  /// @param language  null or "" means "en"
+  /// @param region    null or "" means no region
+  static CKxXlate* GetLanguage(const char* name, const char* language, const char* region);
+
+  /// Inserts up to 13 strings into a message text.
+  ///
+  /// The first '%' or '{' of the text decides which of the two marks places; the other is ordinary
+  /// text. Markers are %0 to %99, or {0} to {99}, counted from 0; in percent style '%' with any
+  /// other byte behind it (as in %s) takes the argument after the highest one used so far. A
+  /// doubled marker stands for itself. Arguments behind the highest one that the text names are
+  /// appended in brackets, so that no value is lost: "Cannot open (a.txt, denied)".
+  ///
+  /// @param buffer  receives the result and its NUL; null writes nothing. May be the same memory as
+  ///                the text or an argument.
+  /// @param size    the buffer's size in bytes; 0 writes nothing. A longer result is cut to
+  ///                `size` - 1 bytes. CAUTION: a result of exactly `size` bytes is written whole,
+  ///                with its NUL in the byte behind the buffer: pass one byte less than you own.
+  /// @param format  the text; null is the empty text
+  /// @param a0      to a12: the arguments; they end with the last that is not null, and a null
+  ///                among them is an absent argument, whose marker stays in the text
+  ///
+  /// Reentrant, takes no lock. Throws std::bad_alloc only.
+  ///
+  ///     char line[64];
+  ///     CKxXlate::Insert(line, sizeof line - 1, "%1 of %0", "ten", "three");  // "three of ten"
+  static void Insert(char* buffer, KxSize size, const char* format, const char* a0 = nullptr,
+                     const char* a1 = nullptr, const char* a2 = nullptr, const char* a3 = nullptr,
+                     const char* a4 = nullptr, const char* a5 = nullptr, const char* a6 = nullptr,
+                     const char* a7 = nullptr, const char* a8 = nullptr, const char* a9 = nullptr,
+                     const char* a10 = nullptr, const char* a11 = nullptr,
+                     const char* a12 = nullptr);
+
+  /// As Insert, for an array of any length.
+  ///
+  /// @param count      number of arguments; all of them count, null ones included
+  /// @param arguments  `count` pointers, of which any may be null; a null array is an empty one
+  static void FormatMessageA(char* buffer, KxSize size, const char* format, std::size_t count,
+                             const char** arguments);
+
+  /// As Insert, for an array of strings, of which the first 13 are used. A string ends at its first
+  /// NUL.
+  static void FormatMessageA(char* buffer, KxSize size, const char* format, std::size_t count,
+                             const std::string* arguments);
+
+  /// Serves all later property lookups from the bundle files of another directory.
+  ///
+  /// The directory is read now: files that come or go later are not noticed. It need not exist; one
+  /// without bundle files is a directory without bundles. Translators handed out before keep
+  /// working.
+  ///
+  /// @param directory  UTF-8; null answers false
+  /// @return false, with nothing changed, when a directory has been replaced before: the process
+  ///         can replace one directory, once. (If none was found when the library was loaded, the
+  ///         first call replaces nothing and a second one can succeed.)
+  ///
+  /// To be called while no other thread looks up bundles: a lookup at the same time is safe, but
+  /// may still be answered from the old directory.
+  static bool SetResourceDirectory(const char* directory);
+
+ protected:
+  CKxXlate();
+
+  /// Slot 18. Only Release destroys a translator.
+  virtual ~CKxXlate();
+};
+
+#endif  // CKX_XLATE_H

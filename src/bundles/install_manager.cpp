@@ -1,0 +1,41 @@
+#include "bundles/install_manager.h"
+
+#include <exception>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "CKxXlate.h"
+#include "bundles/xlate_manager.h"
+#include "platform/directories.h"
+
+namespace kx {
+
+bool InstalledManagers::InstallXlateManager(const char* directory) {
+  const CriticalSectionGuard guard(lock_);
+  if (retired_ != nullptr) return false;
+  auto manager = std::make_unique<XlateManager>(directory);
+  KxTraverseDirectory(directory, manager.get());  // one that cannot be read holds no bundles
+  manager->CompleteDefaults();
+  retired_ = current_.load(std::memory_order_relaxed);
+  current_.store(manager.release(), std::memory_order_release);
+  return true;
+}
+
+bool InstallBundlesAtLoad(ResourceLocation& resources, InstalledManagers& managers) noexcept {
+  try {
+    return resources.Locate() && managers.InstallXlateManager(resources.Directory().c_str());
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+}  // namespace kx
+
+bool CKxXlate::SetResourceDirectory(const char* directory) {
+  if (directory == nullptr) return false;
+  std::string stored = directory;
+  if (!kx::ProcessManagers().InstallXlateManager(directory)) return false;
+  kx::ProcessResources().SetDirectory(std::move(stored));
+  return true;
+}

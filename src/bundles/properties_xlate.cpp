@@ -1,0 +1,104 @@
+#include "bundles/properties_xlate.h"
+
+#include <ctime>
+#include <iostream>
+
+#include "bundles/install_manager.h"
+#include "bundles/property_key_pool.h"
+#include "bundles/resource_directory.h"
+#include "bundles/split_locale.h"
+#include "bundles/xlate_manager.h"
+#include "format/caller_buffer.h"
+#include "log/translation_log.h"
+
+PropertiesXlate::PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner) : owner_(owner) {
+  kx::SplitLocale(owner->Locale(), language_, country_);
+  kx::ReadPropertiesFile(owner->Path().c_str(), texts_);
+  loadTime_ = std::time(nullptr);
+}
+
+void PropertiesXlate::Release() {
+  if (references_.Drop()) delete this;
+}
+
+void PropertiesXlate::AddRef() { references_.Add(); }
+
+const char* PropertiesXlate::GetName() { return owner_->BundleName().c_str(); }
+
+const char* PropertiesXlate::GetLanguageCode() { return language_.c_str(); }
+
+const char* PropertiesXlate::GetCountryCode() { return country_.c_str(); }
+
+const char* PropertiesXlate::GetLongName() { return nullptr; }
+
+const char* PropertiesXlate::GetCharset() { return nullptr; }
+
+std::uint32_t PropertiesXlate::GetId() { return 0; }
+
+const char* PropertiesXlate::GetImageDirectory() { return nullptr; }
+
+const char* PropertiesXlate::GetDirection() { return nullptr; }
+
+const char* PropertiesXlate::GetPromptSuffix() { return nullptr; }
+
+const char* PropertiesXlate::GetDirectory(const char* /*name*/) { return nullptr; }
+
+bool PropertiesXlate::GetDirectory(char* dst, KxSize size, const char* /*name*/) {
+  return kx::AnswerLookup(dst, size, nullptr, nullptr);
+}
+
+const char* PropertiesXlate::GetText(const char* key) {
+  if (key == nullptr) return nullptr;
+  const auto found = texts_.find(key);
+  if (found != texts_.end()) return found->second.c_str();
+  NoteMissingKey(key);
+  return nullptr;
+}
+
+bool PropertiesXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
+  return kx::AnswerLookup(dst, size, GetText(key), dflt);
+}
+
+const char* PropertiesXlate::GetLabel(const char* /*key*/) { return nullptr; }
+
+bool PropertiesXlate::GetLabel(char* dst, KxSize size, const char* /*key*/) {
+  return kx::AnswerLookup(dst, size, nullptr, nullptr);
+}
+
+bool PropertiesXlate::GetPrompt(char* dst, KxSize size, const char* /*key*/,
+                                const char* /*dflt*/) {
+  return kx::AnswerLookup(dst, size, nullptr, nullptr);
+}
+
+void PropertiesXlate::DumpTable() const {
+  std::cout << "Xlate " << owner_->BundleName() << '/' << owner_->Locale() << '\n';
+  for (const auto& [key, text] : texts_) std::cout << "   " << key << "=>" << text << '\n';
+  std::cout << std::endl;
+}
+
+void PropertiesXlate::NoteMissingKey(const char* key) {
+  const kx::CriticalSectionGuard guard(lock_);
+  if (missingKeys_.find(key) != missingKeys_.end()) return;
+  missingKeys_.insert(kx::ProcessKeyPool().InternPropertyKey(key));
+  kx::ProcessLog().WriteLine(kx::ProcessResources().Root(),
+                             {owner_->Path(), " key not found: ", key});
+}
+
+namespace kx {
+
+CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle,
+                              const char* locale) {
+  if (manager == nullptr) return nullptr;
+  bnd::BundleBase<CKxXlate>* entry = manager->FindEntry(bundle, locale);
+  if (entry == nullptr) return nullptr;
+  CKxXlate* translator = entry->GetFile()->Translator(
+      [](const bnd::BundleFile<CKxXlate>& file) { return new PropertiesXlate(&file); });
+  translator->AddRef();  // for the caller
+  return translator;
+}
+
+CKxXlate* GetPropertiesBundle(const char* bundle, const char* locale) {
+  return GetPropertiesBundle(ProcessManagers().Current(), bundle, locale);
+}
+
+}  // namespace kx

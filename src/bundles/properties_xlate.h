@@ -1,0 +1,92 @@
+#ifndef KX_BUNDLES_PROPERTIES_XLATE_H
+#define KX_BUNDLES_PROPERTIES_XLATE_H
+
+#include <cstdint>
+#include <string>
+#include <unordered_set>
+
+#include "CKxXlate.h"
+#include "bundles/bundle_entries.h"
+#include "bundles/key_hash.h"
+#include "bundles/properties_reader.h"
+#include "platform/critical_section.h"
+#include "platform/reference_count.h"
+#include "platform/thread_annotations.h"
+
+class XlateManager;
+
+/// The texts of one .properties file.
+///
+/// Only texts: a property file has no header, directories, labels or prompts, so those operations
+/// answer null, or "" and false.
+///
+/// The first reference belongs to the bundle file that the translator was made for; each caller
+/// gets one more. Since bundle files live as long as the process, so do their translators, and a
+/// file that changes on disk is not read again.
+class PropertiesXlate final : public CKxXlate {
+ public:
+  /// Reads the owner's file; one that cannot be opened gives no texts. Problems go to standard
+  /// error.
+  ///
+  /// @param owner  not null; must outlive this object
+  explicit PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner);
+
+  void Release() override;
+  void AddRef() override;
+  const char* GetName() override;
+  const char* GetLanguageCode() override;  ///< as spelled in the file's name
+  const char* GetCountryCode() override;   ///< as spelled in the file's name
+  const char* GetLongName() override;
+  const char* GetCharset() override;
+  std::uint32_t GetId() override;
+  const char* GetImageDirectory() override;
+  const char* GetDirection() override;
+  const char* GetPromptSuffix() override;
+  const char* GetDirectory(const char* name) override;
+  bool GetDirectory(char* dst, KxSize size, const char* name) override;
+  const char* GetText(const char* key) override;
+  bool GetText(char* dst, KxSize size, const char* key, const char* dflt) override;
+  const char* GetLabel(const char* key) override;
+  bool GetLabel(char* dst, KxSize size, const char* key) override;
+  /// Answers "" and false and does not use the default, which hosts that mix both kinds of
+  /// catalogue rely on.
+  bool GetPrompt(char* dst, KxSize size, const char* key, const char* dflt) override;
+
+  /// When the file was read, in seconds since 1970-01-01 00:00 UTC.
+  std::int64_t LoadTime() const noexcept { return loadTime_; }
+
+  /// Writes all texts to standard output, in no particular order; to be called from a debugger.
+  void DumpTable() const;
+
+ private:
+  ~PropertiesXlate() override = default;
+
+  void NoteMissingKey(const char* key) KX_EXCLUDES(lock_);
+
+  // Constant after construction, so that lookups that find their key need no lock.
+  kx::PropertyTable texts_;
+  std::string language_;
+  std::string country_;
+  std::int64_t loadTime_;
+
+  // Guarded: the keys that were asked for in vain, so that each is logged once.
+  kx::CriticalSection lock_;
+  std::unordered_set<const char*, kx::KeyHash, kx::KeyEqual> missingKeys_ KX_GUARDED_BY(lock_);
+  kx::ReferenceCount references_{1};
+
+  // Owned by the bundle.
+  const bnd::BundleFile<CKxXlate>* const owner_;
+};
+
+namespace kx {
+
+/// The translator that `manager` (null: none) has for a bundle and locale, with a reference for the
+/// caller; null when it has none. Reads the file on its first use.
+CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle, const char* locale);
+
+/// The same from the manager in use.
+CKxXlate* GetPropertiesBundle(const char* bundle, const char* locale);
+
+}  // namespace kx
+
+#endif  // KX_BUNDLES_PROPERTIES_XLATE_H

@@ -1,0 +1,42 @@
+#include "bundles/utf8_check.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+
+namespace kx {
+namespace {
+
+constexpr int kLongestSequence = 6;
+
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+/// Length of the sequence at the start of `text`, which is not empty; 0 when it is broken.
+std::size_t SequenceLength(std::string_view text) {
+  const auto lead = static_cast<unsigned char>(text[0]);
+  if (lead < 0x80) return 1;
+  const int length = std::countl_one(lead);
+  if (length < 2 || length > kLongestSequence) return 0;
+  if (text.size() < static_cast<std::size_t>(length)) return 0;
+  const std::string_view rest = text.substr(1, static_cast<std::size_t>(length) - 1);
+  if (!std::all_of(rest.begin(), rest.end(), IsContinuation)) return 0;
+  // An overlong form has no bits in the lead byte and too few in the next one: a sequence of n
+  // bytes must use a bit above the lowest 8 - n of its first continuation byte.
+  if (length == 2) return lead >= 0xC2 ? 2 : 0;
+  const auto next = static_cast<unsigned char>(text[1]);
+  const bool leadHasBits = static_cast<unsigned char>(lead << length) != 0;
+  return leadHasBits || next >= 0x80 + (0x100 >> length) ? static_cast<std::size_t>(length) : 0;
+}
+
+}  // namespace
+
+bool IsWellFormedUtf8(std::string_view text) noexcept {
+  while (!text.empty()) {
+    const std::size_t length = SequenceLength(text);
+    if (length == 0) return false;
+    text.remove_prefix(length);
+  }
+  return true;
+}
+
+}  // namespace kx

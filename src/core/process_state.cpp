@@ -1,0 +1,27 @@
+#include "bundles/install_manager.h"
+#include "bundles/property_key_pool.h"
+#include "bundles/resource_directory.h"
+#include "log/translation_log.h"
+
+namespace kx {
+namespace {
+
+// Every object of the process lives in this file, because only inside one file does the language
+// fix the order in which they are made (top to bottom) and destroyed (bottom to top). Each folder
+// declares the accessor of its own object; nobody else may define a non-constant global.
+ResourceLocation g_resources;
+PropertyKeyPool g_keyPool;
+InstalledManagers g_managers;
+// Reads the directory now, while no host thread can look anything up; it must not log, since the
+// log below does not exist yet.
+[[maybe_unused]] const bool kBundlesInstalled = InstallBundlesAtLoad(g_resources, g_managers);
+TranslationLog g_log;
+
+}  // namespace
+
+ResourceLocation& ProcessResources() { return g_resources; }
+PropertyKeyPool& ProcessKeyPool() { return g_keyPool; }
+InstalledManagers& ProcessManagers() { return g_managers; }
+TranslationLog& ProcessLog() { return g_log; }
+
+}  // namespace kx

@@ -1,0 +1,35 @@
+#include "format/caller_buffer.h"
+
+#include <cstring>
+
+namespace kx {
+namespace {
+
+bool IsAbsent(const char* dst, KxSize size) { return dst == nullptr || size == 0; }
+
+// Text may lie in the buffer itself: a host may well ask for the default it already put there.
+void CopyTerminated(char* dst, std::string_view text) {
+  if (!text.empty()) std::memmove(dst, text.data(), text.size());
+  dst[text.size()] = '\0';
+}
+
+}  // namespace
+
+void CopyLookupText(char* dst, KxSize size, std::string_view text) {
+  if (IsAbsent(dst, size)) return;
+  CopyTerminated(dst, text.substr(0, size - 1));
+}
+
+void CopyInsertion(char* dst, KxSize size, std::string_view text) {
+  if (IsAbsent(dst, size)) return;
+  CopyTerminated(dst, text.size() > size ? text.substr(0, size - 1) : text);
+}
+
+bool AnswerLookup(char* dst, KxSize size, const char* found, const char* fallback) {
+  if (IsAbsent(dst, size)) return false;
+  const char* text = found != nullptr ? found : fallback;
+  CopyLookupText(dst, size, text == nullptr ? "" : text);
+  return found != nullptr;
+}
+
+}  // namespace kx

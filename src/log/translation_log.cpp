@@ -1,0 +1,66 @@
+#include "log/translation_log.h"
+
+#include <memory>
+#include <ostream>
+
+#include "log/standard_output.h"
+#include "platform/directories.h"
+#include "platform/file_status.h"
+#include "platform/file_streams.h"
+
+namespace kx {
+namespace {
+
+constexpr unsigned kEveryPermission = 0777;
+
+std::string LogFilePath(const std::string& root) {
+  const std::string directory = root.empty() ? "." : root;
+  std::string path = directory;
+  if (path.back() == '\\' || path.back() == '/') path.pop_back();
+  path += "/log";
+  if (!KxIsDirectory(path.c_str()) && KxMakeDir(path.c_str(), kEveryPermission) != 0) {
+    path = directory;
+  }
+  return path + "/translate.log";
+}
+
+std::unique_ptr<std::ostream> OpenLogFile(const std::string& root) {
+  auto file = std::make_unique<CKxOfstream>();
+  KxOfstreamOpen(*file, LogFilePath(root).c_str());
+  if (file->fail()) return std::make_unique<StandardOutputStream>();
+  return file;
+}
+
+void AppendOnOneLine(std::string& line, std::string_view piece) {
+  for (const char c : piece) {
+    if (c == '\n') {
+      line += "\\n";
+    } else if (c == '\r') {
+      line += "\\r";
+    } else {
+      line += c;
+    }
+  }
+}
+
+}  // namespace
+
+void TranslationLog::WriteLine(const std::string& root,
+                               std::initializer_list<std::string_view> pieces) {
+  std::string line;
+  for (const std::string_view piece : pieces) AppendOnOneLine(line, piece);
+  line += '\n';
+
+  const CriticalSectionGuard guard(lock_);
+  std::ostream& stream = OpenTranslationLog(root);
+  // A full disk loses the lines that met it, not all that follow.
+  stream.clear();
+  stream.write(line.data(), static_cast<std::streamsize>(line.size())).flush();
+}
+
+std::ostream& TranslationLog::OpenTranslationLog(const std::string& root) {
+  if (stream_ == nullptr) stream_ = OpenLogFile(root).release();
+  return *stream_;
+}
+
+}  // namespace kx

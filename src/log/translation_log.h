@@ -1,0 +1,52 @@
+#ifndef KX_LOG_TRANSLATION_LOG_H
+#define KX_LOG_TRANSLATION_LOG_H
+
+#include <initializer_list>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+#include "platform/critical_section.h"
+#include "platform/thread_annotations.h"
+
+namespace kx {
+
+/// The diagnostic log: one line a problem, in "translate.log".
+///
+/// The first line decides where the file lies, for all lines that follow: in the directory "log"
+/// under the first writer's root, which is made when missing; in the root itself when that cannot
+/// be done; and when no file can be opened there, all lines go to standard output.
+///
+/// The stream stays open for the rest of the process: it is neither closed nor freed here.
+///
+/// One object of this class serves the process (ProcessLog); tests make their own. Its lock is the
+/// innermost of the library: nothing else is locked while it is held.
+class TranslationLog {
+ public:
+  TranslationLog() = default;
+  TranslationLog(const TranslationLog&) = delete;
+  TranslationLog& operator=(const TranslationLog&) = delete;
+
+  /// Writes one line and flushes it. Any thread; lines never mix.
+  ///
+  /// @param root    the directory to put the log under, if this line is the first; "" means "."
+  /// @param pieces  written one after another, without separators. A line feed or carriage return
+  ///                in them is written as the two characters \n or \r: one problem is one line.
+  ///
+  /// A line that cannot be written is lost silently. Throws std::bad_alloc only.
+  void WriteLine(const std::string& root, std::initializer_list<std::string_view> pieces)
+      KX_EXCLUDES(lock_);
+
+ private:
+  std::ostream& OpenTranslationLog(const std::string& root) KX_REQUIRES(lock_);
+
+  CriticalSection lock_;
+  std::ostream* stream_ KX_GUARDED_BY(lock_) = nullptr;
+};
+
+/// The log of this process. Lives in core/process_state.cpp.
+TranslationLog& ProcessLog();
+
+}  // namespace kx
+
+#endif  // KX_LOG_TRANSLATION_LOG_H

@@ -1,0 +1,32 @@
+#ifndef KX_PLATFORM_ASCII_CASE_H
+#define KX_PLATFORM_ASCII_CASE_H
+
+#include <algorithm>
+#include <string_view>
+
+namespace kx {
+
+// The character functions of the C library depend on the host's locale and are undefined for
+// negative values; catalogues and keys need neither.
+
+/// `c` as an unsigned value, with ASCII capitals turned into small letters.
+constexpr unsigned char FoldAscii(char c) noexcept {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte >= 'A' && byte <= 'Z' ? static_cast<unsigned char>(byte + ('a' - 'A')) : byte;
+}
+
+constexpr bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) noexcept {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(),
+                    [](char x, char y) { return FoldAscii(x) == FoldAscii(y); });
+}
+
+/// Whether `text` ends with `suffix`, ASCII case apart.
+constexpr bool EndsWithIgnoringAsciiCase(std::string_view text, std::string_view suffix) noexcept {
+  return text.size() >= suffix.size() &&
+         EqualIgnoringAsciiCase(text.substr(text.size() - suffix.size()), suffix);
+}
+
+}  // namespace kx
+
+#endif  // KX_PLATFORM_ASCII_CASE_H

@@ -1,0 +1,45 @@
+#include "platform/directories.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <cstring>
+#include <memory>
+
+#include "platform/directory_entries.h"
+
+namespace {
+
+struct CloseDirectory {
+  void operator()(DIR* directory) const { ::closedir(directory); }
+};
+
+bool IsDirectory(DIR* directory, const dirent& entry) {
+  if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return entry.d_type == DT_DIR;
+  struct stat found;
+  return ::fstatat(::dirfd(directory), entry.d_name, &found, 0) == 0 && S_ISDIR(found.st_mode);
+}
+
+bool IsDotName(const char* name) {
+  return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
+}
+
+}  // namespace
+
+namespace kx {
+
+bool ListDirectory(const char* directory, std::vector<DirectoryEntry>& entries) {
+  const std::unique_ptr<DIR, CloseDirectory> open(::opendir(directory));
+  if (open == nullptr) return false;
+  while (const dirent* entry = ::readdir(open.get())) {
+    if (IsDotName(entry->d_name)) continue;
+    entries.push_back({entry->d_name, IsDirectory(open.get(), *entry)});
+  }
+  return true;
+}
+
+}  // namespace kx
+
+int KxMakeDir(const char* path, unsigned mode) {
+  return ::mkdir(path, static_cast<mode_t>(mode));
+}

@@ -1,0 +1,58 @@
+#include "platform/file_handle.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace kx {
+namespace {
+
+// Opening a pipe that nobody writes to would wait, and hold whatever lock its caller holds.
+constexpr int kNeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+
+int Descriptor(FileHandle file) { return static_cast<int>(file); }
+
+bool IsRegularFile(int descriptor) {
+  struct stat found;
+  return ::fstat(descriptor, &found) == 0 && S_ISREG(found.st_mode);
+}
+
+}  // namespace
+
+FileHandle OpenRegularFile(const char* path) {
+  const int descriptor = ::open(path, O_RDONLY | kNeverWait);
+  if (descriptor < 0) return kNoFile;
+  // Asked of the open file, not of the path, which may name another file by now.
+  if (IsRegularFile(descriptor)) return descriptor;
+  ::close(descriptor);
+  return kNoFile;
+}
+
+FileHandle OpenForAppending(const char* path) {
+  return ::open(path, O_WRONLY | O_APPEND | O_CREAT | kNeverWait, 0666);
+}
+
+std::size_t ReadFileBlock(FileHandle file, char* block, std::size_t size) {
+  ssize_t count;
+  do {
+    count = ::read(Descriptor(file), block, size);
+  } while (count < 0 && errno == EINTR);
+  return count < 0 ? 0 : static_cast<std::size_t>(count);
+}
+
+bool WriteFileBlock(FileHandle file, const char* block, std::size_t size) {
+  while (size > 0) {
+    const ssize_t count = ::write(Descriptor(file), block, size);
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return false;
+    block += count;
+    size -= static_cast<std::size_t>(count);
+  }
+  return true;
+}
+
+void CloseFile(FileHandle file) { ::close(Descriptor(file)); }
+
+}  // namespace kx

@@ -1,0 +1,58 @@
+#include "platform/file_streams.h"
+
+namespace kx {
+namespace {
+
+constexpr std::size_t kBlockBytes = 64 * 1024;
+
+}  // namespace
+
+FileInputBuffer::~FileInputBuffer() {
+  if (file_ != kNoFile) CloseFile(file_);
+}
+
+bool FileInputBuffer::Open(const char* path) {
+  // Before the file is opened, so that a failed allocation leaves nothing open.
+  block_.resize(kBlockBytes);
+  file_ = OpenRegularFile(path);
+  return file_ != kNoFile;
+}
+
+FileInputBuffer::int_type FileInputBuffer::underflow() {
+  const std::size_t count =
+      file_ == kNoFile ? 0 : ReadFileBlock(file_, block_.data(), block_.size());
+  if (count == 0) return traits_type::eof();
+  setg(block_.data(), block_.data(), block_.data() + count);
+  return traits_type::to_int_type(block_.front());
+}
+
+FileOutputBuffer::~FileOutputBuffer() {
+  if (file_ != kNoFile) CloseFile(file_);
+}
+
+bool FileOutputBuffer::Open(const char* path) {
+  file_ = OpenForAppending(path);
+  return file_ != kNoFile;
+}
+
+std::streamsize FileOutputBuffer::xsputn(const char* text, std::streamsize size) {
+  const bool written =
+      file_ != kNoFile && WriteFileBlock(file_, text, static_cast<std::size_t>(size));
+  return written ? size : 0;
+}
+
+FileOutputBuffer::int_type FileOutputBuffer::overflow(int_type c) {
+  if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
+  const char byte = traits_type::to_char_type(c);
+  return xsputn(&byte, 1) == 1 ? c : traits_type::eof();
+}
+
+}  // namespace kx
+
+void KxIfstreamOpen(CKxIfstream& stream, const char* path) {
+  if (!stream.buffer_.Open(path)) stream.setstate(std::ios::failbit);
+}
+
+void KxOfstreamOpen(CKxOfstream& stream, const char* path) {
+  if (!stream.buffer_.Open(path)) stream.setstate(std::ios::failbit);
+}
