@@ -89,19 +89,19 @@ class KXXLATE_API CKxXlate {
   //
   // Null keys are never found.
 #if defined(_MSC_VER)
-  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;                  // 12
-  virtual const char* GetDirectory(const char* name) = 0;                                   // 11
-  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;      // 14
-  virtual const char* GetText(const char* key) = 0;                                         // 13
-  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                       // 16
-  virtual const char* GetLabel(const char* key) = 0;                                        // 15
+  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;              // 12
+  virtual const char* GetDirectory(const char* name) = 0;                               // 11
+  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;  // 14
+  virtual const char* GetText(const char* key) = 0;                                     // 13
+  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                   // 16
+  virtual const char* GetLabel(const char* key) = 0;                                    // 15
 #else
-  virtual const char* GetDirectory(const char* name) = 0;                                   // 11
-  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;                  // 12
-  virtual const char* GetText(const char* key) = 0;                                         // 13
-  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;      // 14
-  virtual const char* GetLabel(const char* key) = 0;                                        // 15
-  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                       // 16
+  virtual const char* GetDirectory(const char* name) = 0;                               // 11
+  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;              // 12
+  virtual const char* GetText(const char* key) = 0;                                     // 13
+  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;  // 14
+  virtual const char* GetLabel(const char* key) = 0;                                    // 15
+  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                   // 16
 #endif
 
   /// As GetText into a buffer; then the prompt suffix is appended if there is one, `dst` is not

@@ -24,9 +24,7 @@ class InstalledManagers {
   InstalledManagers& operator=(const InstalledManagers&) = delete;
 
   /// The manager in use; null until one was installed. Any thread.
-  const XlateManager* Current() const noexcept {
-    return current_.load(std::memory_order_acquire);
-  }
+  const XlateManager* Current() const noexcept { return current_.load(std::memory_order_acquire); }
 
   /// Reads `directory` (UTF-8, not null; need not exist) and puts its manager into use. False, with
   /// nothing changed, when a manager has been replaced before.

@@ -65,8 +65,7 @@ bool PropertiesXlate::GetLabel(char* dst, KxSize size, const char* /*key*/) {
   return kx::AnswerLookup(dst, size, nullptr, nullptr);
 }
 
-bool PropertiesXlate::GetPrompt(char* dst, KxSize size, const char* /*key*/,
-                                const char* /*dflt*/) {
+bool PropertiesXlate::GetPrompt(char* dst, KxSize size, const char* /*key*/, const char* /*dflt*/) {
   return kx::AnswerLookup(dst, size, nullptr, nullptr);
 }
 
@@ -86,8 +85,7 @@ void PropertiesXlate::NoteMissingKey(const char* key) {
 
 namespace kx {
 
-CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle,
-                              const char* locale) {
+CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle, const char* locale) {
   if (manager == nullptr) return nullptr;
   bnd::BundleBase<CKxXlate>* entry = manager->FindEntry(bundle, locale);
   if (entry == nullptr) return nullptr;

@@ -20,8 +20,8 @@ bool IsAbsolute(const std::string& path) {
   return !path.empty() && (IsSeparator(path[0]) || (path.size() > 1 && path[1] == ':'));
 }
 
-bool SearchAboveExecutable(SearchSources& sources, const char* subdirectory,
-                           std::string& directory, std::string& root) {
+bool SearchAboveExecutable(SearchSources& sources, const char* subdirectory, std::string& directory,
+                           std::string& root) {
   const char* path = sources.ExecutablePath();
   if (path == nullptr || !IsAbsolute(path)) return false;
   root = path;
@@ -76,8 +76,8 @@ bool IsDirectoryUnder(SearchSources& sources, const char* base, const char* subd
   return sources.IsDirectory(joined.c_str());
 }
 
-bool FindResourceDirectory(SearchSources& sources, const char* subdirectory,
-                           std::string& directory, std::string& root) {
+bool FindResourceDirectory(SearchSources& sources, const char* subdirectory, std::string& directory,
+                           std::string& root) {
   if (SearchAboveExecutable(sources, subdirectory, directory, root)) return true;
   const char* relative = IsSeparator(*subdirectory) ? subdirectory + 1 : subdirectory;
   if (SearchEnvironment(sources, relative, directory, root)) return true;

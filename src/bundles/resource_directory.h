@@ -40,8 +40,8 @@ bool IsDirectoryUnder(SearchSources& sources, const char* base, const char* subd
 /// @param directory  the full path of the subdirectory; empty when nothing is found
 /// @param root       the directory that holds it. When nothing is found it is what the first source
 ///                   last tried, which is where diagnostics go.
-bool FindResourceDirectory(SearchSources& sources, const char* subdirectory,
-                           std::string& directory, std::string& root);
+bool FindResourceDirectory(SearchSources& sources, const char* subdirectory, std::string& directory,
+                           std::string& root);
 
 /// The same on this machine.
 bool FindResourceDirectory(const char* subdirectory, std::string& directory, std::string& root);

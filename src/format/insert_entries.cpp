@@ -22,10 +22,10 @@ void InsertIntoBuffer(char* buffer, KxSize size, const char* format, std::size_t
 
 }  // namespace
 
-void CKxXlate::Insert(char* buffer, KxSize size, const char* format, const char* a0,
-                      const char* a1, const char* a2, const char* a3, const char* a4,
-                      const char* a5, const char* a6, const char* a7, const char* a8,
-                      const char* a9, const char* a10, const char* a11, const char* a12) {
+void CKxXlate::Insert(char* buffer, KxSize size, const char* format, const char* a0, const char* a1,
+                      const char* a2, const char* a3, const char* a4, const char* a5,
+                      const char* a6, const char* a7, const char* a8, const char* a9,
+                      const char* a10, const char* a11, const char* a12) {
   const char* const arguments[kMaxLooseArguments] = {a0, a1, a2, a3,  a4,  a5, a6,
                                                      a7, a8, a9, a10, a11, a12};
   const auto last = std::find_if(std::rbegin(arguments), std::rend(arguments),

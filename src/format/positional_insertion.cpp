@@ -62,7 +62,8 @@ class Insertion {
     return next;
   }
 
-  // The text comes back as a number, not as written: "{05x" loses its 0, and catalogues count on it.
+  // The text comes back as a number, not as written: "{05x" loses its 0, and catalogues count on
+  // it.
   const char* TakeUnclosedBrace(std::size_t index, char last, const char* next) {
     result_ += '{';
     if (index >= 10) result_ += static_cast<char>('0' + index / 10);

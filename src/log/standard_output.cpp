@@ -6,8 +6,7 @@
 namespace kx {
 
 std::streamsize StandardOutputBuffer::xsputn(const char* text, std::streamsize size) {
-  return static_cast<std::streamsize>(
-      std::fwrite(text, 1, static_cast<std::size_t>(size), stdout));
+  return static_cast<std::streamsize>(std::fwrite(text, 1, static_cast<std::size_t>(size), stdout));
 }
 
 StandardOutputBuffer::int_type StandardOutputBuffer::overflow(int_type c) {

@@ -16,9 +16,9 @@ constexpr unsigned char FoldAscii(char c) noexcept {
 }
 
 constexpr bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) noexcept {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(),
-                    [](char x, char y) { return FoldAscii(x) == FoldAscii(y); });
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return FoldAscii(x) == FoldAscii(y);
+         });
 }
 
 /// Whether `text` ends with `suffix`, ASCII case apart.

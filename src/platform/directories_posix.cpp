@@ -40,6 +40,4 @@ bool ListDirectory(const char* directory, std::vector<DirectoryEntry>& entries) 
 
 }  // namespace kx
 
-int KxMakeDir(const char* path, unsigned mode) {
-  return ::mkdir(path, static_cast<mode_t>(mode));
-}
+int KxMakeDir(const char* path, unsigned mode) { return ::mkdir(path, static_cast<mode_t>(mode)); }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr char kSelf[] = "/proc/self/exe";
 constexpr std::size_t kFirstBytes = 256;
-constexpr std::size_t kMostBytes = 1024 * 1024;
+constexpr std::size_t kMostBytes = std::size_t{1024} * 1024;
 
 }  // namespace
 

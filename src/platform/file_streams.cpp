@@ -3,7 +3,7 @@
 namespace kx {
 namespace {
 
-constexpr std::size_t kBlockBytes = 64 * 1024;
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
 
 }  // namespace
 

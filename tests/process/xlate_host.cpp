@@ -142,11 +142,11 @@ class Host {
   std::vector<CKxXlate*> kept_;
   const std::map<std::string, Step> steps_ = {
       {"text",
-       {3, [](const auto& a) {
-          PrintText(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])), a[2]);
-        }}},
+       {3,
+        [](const auto& a) { PrintText(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])), a[2]); }}},
       {"language",
-       {4, [](const auto& a) {
+       {4,
+        [](const auto& a) {
           PrintText(CKxXlate::GetLanguage(Pointer(a[0]), Pointer(a[1]), Pointer(a[2])), a[3]);
         }}},
       {"info",

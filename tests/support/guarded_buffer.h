@@ -5,8 +5,8 @@
 
 #include "CKxXlate.h"
 
-/// A caller's buffer of `size` bytes with bytes in front of and behind it, all of one value, so that
-/// a test sees exactly which were written.
+/// A caller's buffer of `size` bytes with bytes in front of and behind it, all of one value, so
+/// that a test sees exactly which were written.
 class GuardedBuffer {
  public:
   static constexpr char kUntouched = '\x5A';
@@ -31,9 +31,7 @@ class GuardedBuffer {
     return last == std::string::npos || last < kGuardBytes ? 0 : last - kGuardBytes + 1;
   }
 
-  bool IsFrontUntouched() const {
-    return bytes_.find_first_not_of(kUntouched) >= kGuardBytes;
-  }
+  bool IsFrontUntouched() const { return bytes_.find_first_not_of(kUntouched) >= kGuardBytes; }
 
  private:
   static constexpr std::size_t kGuardBytes = 16;

@@ -41,8 +41,7 @@ std::string HostTree::CopyProgram(const std::string& directory, const std::strin
   return std::string(path.begin(), path.end());
 }
 
-HostRun HostTree::Run(const std::string& program,
-                      const std::vector<std::string>& arguments) const {
+HostRun HostTree::Run(const std::string& program, const std::vector<std::string>& arguments) const {
   ProcessStart start;
   start.program = program;
   start.arguments = arguments;

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Builds the library with warnings as errors and runs every test.
+#
+#   scripts/test.sh [PRESET]     debug (the default), clang, asan or tsan
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/packages.sh
+
+preset=${1:-debug}
+packages=("${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}")
+[ "$preset" != clang ] || packages+=(clang)
+need_packages "${packages[@]}"
+echo "Building into build/$preset."
+cmake --preset "$preset" >/dev/null
+cmake --build --preset "$preset" | tail -n 1
+ctest --preset "$preset" --parallel "$(nproc)" --schedule-random

@@ -1,0 +1,28 @@
+#include <gtest/gtest.h>
+
+#include "support/host_tree.h"
+
+namespace {
+
+TEST(ExampleHost, GreetsInTheLocaleOfItsArgument) {
+  HostTree tree;
+  tree.SetEnvironment("TAVI_XLATE_ROOT", KXXLATE_EXAMPLE_CATALOGUES);
+
+  const HostRun run = tree.RunCopyIn("bin", KXXLATE_EXAMPLE_HOST, {"de-AT"});
+
+  EXPECT_EQ(0, run.exitCode);
+  EXPECT_EQ("Willkommen, Ann. Sie haben 3 ungelesene Nachrichten.\n", run.output);
+}
+
+TEST(ExampleHost, SaysWhatToDoWithoutCatalogues) {
+  HostTree tree;
+
+  const HostRun run = tree.RunCopyIn("bin", KXXLATE_EXAMPLE_HOST, {});
+
+  EXPECT_EQ(1, run.exitCode);
+  EXPECT_EQ(
+      "no catalogues found; set TAVI_XLATE_ROOT to the directory above \"resources\"\n",
+      run.errors);
+}
+
+}  // namespace

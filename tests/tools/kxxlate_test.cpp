@@ -1,0 +1,99 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/host_tree.h"
+
+namespace {
+
+class Kxxlate : public testing::Test {
+ protected:
+  Kxxlate() {
+    tree_.Write("texts/agent_en.properties", "Hello=Hello, %0\nRate=50%%\n");
+    tree_.Write("texts/agent_fr.properties", "Hello=Bonjour, %0\n");
+    tree_.Write("texts/agent_fr_CA.properties", "Hello=Salut, %0\n");
+    tree_.Write("texts/menu.properties", "Open=Open\n");
+  }
+
+  /// Runs the tool from a copy in the tree, so that what it logs stays in the tree.
+  HostRun Run(const std::vector<std::string>& arguments) const {
+    return tree_.RunCopyIn("a/b/c/bin", KXXLATE_TOOL, arguments);
+  }
+
+  HostRun RunOnTexts(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), {"--resources", tree_.Path("texts")});
+    return Run(arguments);
+  }
+
+  HostTree tree_;
+};
+
+void ExpectRun(int exitCode, const std::string& output, const std::string& errors,
+               const HostRun& run) {
+  EXPECT_EQ(exitCode, run.exitCode);
+  EXPECT_EQ(output, run.output);
+  EXPECT_EQ(errors, run.errors);
+}
+
+TEST_F(Kxxlate, GetPrintsTheTextWithItsArguments) {
+  ExpectRun(0, "Bonjour, Ann\n", "", RunOnTexts({"get", "agent", "fr", "Hello", "Ann"}));
+  ExpectRun(0, "Salut, Ann (3)\n", "", RunOnTexts({"get", "agent", "fr-CA", "Hello", "Ann", "3"}));
+  ExpectRun(0, "50%\n", "", RunOnTexts({"get", "agent", "", "Rate"}));
+}
+
+TEST_F(Kxxlate, GetTakesArgumentsThatLookLikeOptionsBehindTwoHyphens) {
+  ExpectRun(0, "Hello, -1\n", "", RunOnTexts({"get", "agent", "en", "Hello", "--", "-1"}));
+}
+
+TEST_F(Kxxlate, GetPrintsLongTextsWhole) {
+  // One around each size of the buffer that the tool tries.
+  for (const std::size_t length : {240U, 247U, 248U, 249U, 250U, 503U, 504U, 505U, 5000U}) {
+    const std::string name(length, 'x');
+    ExpectRun(0, "Hello, " + name + '\n', "", RunOnTexts({"get", "agent", "en", "Hello", name}));
+  }
+}
+
+TEST_F(Kxxlate, AnswersOneForWhatIsNotFound) {
+  ExpectRun(1, "", "kxxlate: no bundle \"nope\" for locale \"fr\"\n",
+            RunOnTexts({"get", "nope", "fr", "Hello"}));
+  ExpectRun(1, "", "kxxlate: no key \"NOPE\" in bundle \"agent\" for locale \"fr\"\n",
+            RunOnTexts({"get", "agent", "fr", "NOPE"}));
+  ExpectRun(1, "", "kxxlate: no bundle \"nope\" for locale \"fr\"\n",
+            RunOnTexts({"info", "nope", "fr"}));
+  ExpectRun(1, "", "kxxlate: no bundles found\n", Run({"bundles"}));
+}
+
+TEST_F(Kxxlate, AnswersTwoWhenItCannotRun) {
+  ExpectRun(2, "", "kxxlate: A subcommand is required\n", Run({}));
+  ExpectRun(2, "", "kxxlate: KEY is required\n", Run({"get", "agent", "fr"}));
+  const std::string missing = tree_.Path("missing");
+  ExpectRun(2, "", "kxxlate: not a directory: " + missing + '\n',
+            Run({"--resources", missing, "bundles"}));
+}
+
+TEST_F(Kxxlate, InfoPrintsWhatTheTranslatorSays) {
+  ExpectRun(0,
+            "Name:            agent\n"
+            "Language:        fr\n"
+            "Country:         CA\n"
+            "Long name:       (none)\n"
+            "Charset:         (none)\n"
+            "Direction:       (none)\n"
+            "Image directory: (none)\n"
+            "Prompt suffix:   (none)\n"
+            "Id:              0\n",
+            "", RunOnTexts({"info", "agent", "FR_ca"}));
+}
+
+TEST_F(Kxxlate, BundlesListsTheirLocales) {
+  ExpectRun(0, "agent: en fr fr_CA\nmenu: (default)\n", "", RunOnTexts({"bundles"}));
+}
+
+TEST_F(Kxxlate, UsesTheLibrarysOwnSearchWithoutAnOption) {
+  tree_.Write("a/b/resources/tasks_ja.properties", "Open=Hiraku\n");
+  ExpectRun(0, "Hiraku\n", "", Run({"get", "tasks", "ja", "Open"}));
+  ExpectRun(0, "tasks: ja\n", "", Run({"bundles"}));
+}
+
+}  // namespace

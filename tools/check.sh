@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Checks what no test sees: format, layers, lints. Stops at the first that fails.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/packages.sh
+
+need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang-format clang-tidy clang
+mapfile -t sources < <(git ls-files '*.h' '*.cpp')
+echo "Format of ${#sources[@]} files."
+clang-format --dry-run -Werror "${sources[@]}"
+echo "Layers, platform conditionals, plain ASCII."
+tools/check_includes.py
+echo "Lints."
+cmake --preset clang -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
+mapfile -t linted < <(git ls-files 'src/*.cpp' 'tools/*.cpp')
+printf '%s\0' "${linted[@]}" |
+  xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/clang 2>/dev/null

@@ -1,0 +1,82 @@
+#!/usr/bin/env python3
+"""Checks what the compiler does not: who includes whom, where platform conditionals stand, and that
+sources are plain ASCII and of a size that can be read. Prints each breach and exits 1 if any."""
+
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+SRC = ROOT / "src"
+
+# A folder is a layer; it may include itself, the public headers and these.
+MAY_INCLUDE = {
+    "platform": set(),
+    "log": {"platform"},
+    "format": {"platform"},
+    "lang": {"platform", "log", "format"},
+    "bundles": {"platform", "log", "format"},
+    "core": {"platform", "log", "format", "lang", "bundles"},
+}
+PUBLIC_USERS = {"format", "lang", "bundles", "core"}
+
+MOST_LINES = 450
+# The public headers' own three: what is exported, the buffer size, the order of operations.
+PLATFORM_CONDITIONALS_ALLOWED = {"include/KxXlateExport.h": 1, "include/CKxXlate.h": 2}
+PLATFORM_CONDITIONAL = re.compile(
+    r"^\s*#\s*(?:el)?if.*\b(_WIN32|_WIN64|_MSC_VER|__linux__|__unix__|__MINGW\w*|__APPLE__)\b",
+    re.M)
+
+
+def name(path):
+    return path.relative_to(ROOT).as_posix()
+
+
+def sources(folder):
+    return sorted(path for path in (ROOT / folder).rglob("*") if path.suffix in {".h", ".cpp"})
+
+
+def include_breaches():
+    for path in sources("src"):
+        folder = path.relative_to(SRC).parts[0]
+        for target in re.findall(r'^#include "(\w+)/', path.read_text(), re.M):
+            if target != folder and target not in MAY_INCLUDE[folder]:
+                yield f"{name(path)}: {folder}/ may not include {target}/"
+        for public in re.findall(r'^#include "(\w+\.h)"', path.read_text(), re.M):
+            if folder not in PUBLIC_USERS:
+                yield f"{name(path)}: {folder}/ may not include the public header {public}"
+    for path in sources("include"):
+        for target in re.findall(r'^#include "([^"]+)"', path.read_text(), re.M):
+            if not (ROOT / "include" / target).is_file():
+                yield f"{name(path)}: a public header may include only public headers, not {target}"
+
+
+def conditional_breaches():
+    for folder in ("src", "include", "tools", "examples", "tests", "bench"):
+        for path in sources(folder):
+            if name(path).startswith("src/platform/"):
+                continue
+            found = len(PLATFORM_CONDITIONAL.findall(path.read_text()))
+            if found > PLATFORM_CONDITIONALS_ALLOWED.get(name(path), 0):
+                yield f"{name(path)}: platform conditional outside src/platform"
+
+
+def text_breaches():
+    for folder in ("src", "include", "tools", "examples", "tests", "bench"):
+        for path in sources(folder):
+            text = path.read_bytes()
+            if not text.isascii():
+                yield f"{name(path)}: not plain ASCII; write other bytes as escapes"
+            if text.count(b"\n") > MOST_LINES:
+                yield f"{name(path)}: longer than {MOST_LINES} lines; split it"
+
+
+def main():
+    breaches = [*include_breaches(), *conditional_breaches(), *text_breaches()]
+    for breach in breaches:
+        print(breach)
+    return 1 if breaches else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
