@@ -1,6 +1,7 @@
 #ifndef CKX_XLATE_H
 #define CKX_XLATE_H
 
+#include <cstdarg>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -13,6 +14,8 @@ using KxSize = unsigned long;
 #else
 using KxSize = std::uint32_t;
 #endif
+
+struct Xlate;
 
 /// The texts of one bundle (a named set of messages) in one language.
 ///
@@ -116,17 +119,24 @@ class KXXLATE_API CKxXlate {
 
   /// Finds the translator of a bundle for a locale.
   ///
-  /// The locale falls back: "fr-CA" is answered by the texts for fr-CA, else by those for fr, else
-  /// by the bundle's default (the file without a locale, or else the English one).
+  /// The property bundles are asked first, with fallback (fr-CA, fr, then the bundle's default);
+  /// then the language files of that language and region; then the English ones. The call
+  /// therefore answers a translator for any name, and an unknown key is noticed only later, by
+  /// GetText.
   ///
-  /// @param name    the bundle's name, in its exact case; null or "" answers null
-  /// @param locale  "fr", "fr-CA" or "fr_CA", in any case; null and "" ask for the default
+  /// @param name    bundle name, in its exact case; null or "" answers null
+  /// @param locale  "fr", "fr-CA" or "fr_CA", in any case; null or "" asks for a property bundle's
+  ///                default or for English language files
   /// @return a translator with one reference for the caller, to be given back with Release; null
-  ///         when there are no texts for the name and locale
+  ///         only for an absent name
   ///
-  /// Any thread, at any time. The first call for a file reads it, while other callers of that file
-  /// wait; later calls read nothing and allocate nothing. A file is read once and never again.
-  /// Problems in the file go to standard error. Throws std::bad_alloc only.
+  /// Any thread, at any time. A property file is read by the first call for it, while other callers
+  /// of that file wait, and never again. The first call for a language, and the first after one of
+  /// its files changed, reads files while all other language lookups of the process wait; a
+  /// language already read costs up to four file-status calls.
+  ///
+  /// Problems in the files go to translate.log or, for property files, to standard error. Throws
+  /// std::bad_alloc only.
   static CKxXlate* GetBundle(const char* name, const char* locale);
 
   /// As GetBundle, for a language and a region given apart.
@@ -135,6 +145,13 @@ class KXXLATE_API CKxXlate {
   /// @param language  null or "" means "en"
   /// @param region    null or "" means no region
   static CKxXlate* GetLanguage(const char* name, const char* language, const char* region);
+
+  /// Drops the library's own references on the translators read from language files, so that those
+  /// that no caller holds are destroyed. Later lookups read the files anew.
+  ///
+  /// For hosts that unload the library or count what is left at their end; nothing else needs it.
+  /// Translators of property bundles stay. Any thread, at any time.
+  static void FreeCache();
 
   /// Inserts up to 13 strings into a message text.
   ///
@@ -176,6 +193,60 @@ class KXXLATE_API CKxXlate {
   static void FormatMessageA(char* buffer, KxSize size, const char* format, std::size_t count,
                              const std::string* arguments);
 
+  /// Finds the text of a message, inserts its arguments and answers the result.
+  ///
+  /// The first call for an object looks its translator up (GetBundle with the object's bundle name
+  /// and locale) and keeps it in the object, also when there is none; later calls use it until the
+  /// host clears `resolved`. A key that the translator lacks is itself the text, so the user sees
+  /// the key with its arguments inserted.
+  ///
+  /// @param xlate  read and updated; null answers null. At most 16 of its arguments are used, and
+  ///               none that `args` does not hold.
+  /// @param key    null is the empty text
+  /// @return the text of the object's `output`, valid until it is formatted again or destroyed
+  ///
+  /// Each lookup of the translator leaves one reference more than the object owns, which nobody
+  /// gives back: a translator found by Format is never destroyed. Hosts rely on it.
+  ///
+  /// Any thread, but one object must not be formatted by two threads at once. Throws
+  /// std::bad_alloc, and what the virtual operations of the object's texts throw.
+  static const char* Format(Xlate* xlate, const char* key);
+
+  /// Inserts typed values into a message text, by the numbers of its conversions.
+  ///
+  /// The conversions %d %i (int), %o %x (unsigned), %f (double) and %s (terminated text) are each
+  /// followed by ":" and a digit from 1 to 9: "%d:2 items in %s:1". The values are taken in the
+  /// order in which the conversions stand in the text; the digit says which of them, counted in
+  /// that order, is inserted in its place. Whatever else begins with "%" takes no value and
+  /// vanishes, with the byte behind it; so does a conversion without its digit. A tenth conversion
+  /// takes no value.
+  ///
+  /// @param buffer  filled with zeros, then with the result, cut to `size` - 1 bytes; null or a
+  /// size
+  ///                of 0 writes nothing
+  /// @param format  the text; null is the empty text
+  ///
+  /// The values must have the types that the text says. A null text counts as empty. Reentrant,
+  /// takes no lock. Throws std::bad_alloc only.
+  ///
+  ///     char line[64];
+  ///     CKxXlate::InsertVariable(line, sizeof line, "%s:1 has %d:2 files", "disk", 12);
+  static void InsertVariable(char* buffer, KxSize size, const char* format, ...);
+
+  /// Inserts typed values into a message text, each in the form that its conversion asks for.
+  ///
+  /// A conversion is that of printf, with flags, width, precision and length, and ends with one of
+  /// c d i o p u x f s. ":" and a digit behind it number its value from 1 (0 is the tenth), so that
+  /// translations can reorder and repeat values; one without takes the next value. There is no
+  /// "%%": docs/markers.md has all the rules.
+  ///
+  /// @param arguments  the values, which must have the types that the conversions say; used up
+  ///
+  /// Buffer, text and the rest as with InsertVariable. "%n" and "*" do nothing, widths and
+  /// precisions above 16,383 act as that, and one value is cut at 16,383 bytes.
+  static void InsertVariableVA(char* buffer, KxSize size, const char* format,
+                               std::va_list arguments);
+
   /// Serves all later property lookups from the bundle files of another directory.
   ///
   /// The directory is read now: files that come or go later are not noticed. It need not exist; one
@@ -197,5 +268,8 @@ class KXXLATE_API CKxXlate {
   /// Slot 18. Only Release destroys a translator.
   virtual ~CKxXlate();
 };
+
+/// The library's version banner, always the same pointer.
+extern "C" KXXLATE_API const char* getProductVersion();
 
 #endif  // CKX_XLATE_H

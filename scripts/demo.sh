@@ -27,8 +27,8 @@ printf '\nEach language has its own order:\n'
 kxxlate get agent en FILES_COPIED 3 10 /srv/data
 kxxlate get agent ja FILES_COPIED 3 10 /srv/data
 printf '\nA locale without a file is answered by a shorter one (de), or by the default (en):\n'
-kxxlate get agent de-AT SERVICE_STARTED backup
-kxxlate get agent pt-BR SERVICE_STARTED backup
+kxxlate get agent de-AT SERVICE_STARTED backup alpha 4.2
+kxxlate get agent pt-BR SERVICE_STARTED backup alpha 4.2
 printf '\nValues that a text has no place for are kept:\n'
 kxxlate get agent fr-CA CANNOT_OPEN_FILE a.txt denied
 printf '\nWhat a translator says of itself:\n'

@@ -3,149 +3,97 @@
 // Exit code 0: found; 1: not found; 2: could not run. One line on standard error says why.
 
 #include <CLI/CLI.hpp>
-#include <cstring>
 #include <iostream>
-#include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "CKxXlate.h"
 #include "bundle_listing.h"
+#include "commands.h"
 
 namespace {
 
-enum ExitCode { kFound = 0, kNotFound = 1, kCouldNotRun = 2 };
-
-struct Request {
-  std::string resources;
-  std::string bundle;
-  std::string locale;
-  std::string key;
-  std::vector<std::string> arguments;
-};
-
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-using Translator = std::unique_ptr<CKxXlate, ReleaseTranslator>;
-
-ExitCode Fail(ExitCode code, const std::string& reason) {
-  std::cerr << "kxxlate: " << reason << '\n';
-  return code;
-}
-
-ExitCode NoBundle(const Request& request) {
-  return Fail(kNotFound,
-              "no bundle \"" + request.bundle + "\" for locale \"" + request.locale + '"');
-}
-
-Translator FindTranslator(const Request& request) {
-  return Translator(CKxXlate::GetBundle(request.bundle.c_str(), request.locale.c_str()));
-}
-
-std::string WithArguments(const char* text, const std::vector<std::string>& arguments) {
-  std::vector<const char*> pointers;
-  pointers.reserve(arguments.size());
-  for (const std::string& argument : arguments) pointers.push_back(argument.c_str());
-  // A result that does not fit is cut, not refused: one that fills its buffer may be a cut one.
-  for (std::size_t size = 256;; size *= 2) {
-    std::string buffer(size + 1, '\0');
-    CKxXlate::FormatMessageA(buffer.data(), static_cast<KxSize>(size), text, pointers.size(),
-                             pointers.data());
-    const std::size_t length = std::strlen(buffer.c_str());
-    if (length + 1 < size) return buffer.substr(0, length);
-  }
-}
-
-ExitCode Get(const Request& request) {
-  const Translator translator = FindTranslator(request);
-  if (translator == nullptr) return NoBundle(request);
-  const char* text = translator->GetText(request.key.c_str());
-  if (text == nullptr) {
-    return Fail(kNotFound, "no key \"" + request.key + "\" in bundle \"" + request.bundle +
-                               "\" for locale \"" + request.locale + '"');
-  }
-  std::cout << WithArguments(text, request.arguments) << '\n';
-  return kFound;
-}
-
-void PrintValue(const char* name, const char* value) {
-  std::cout << name << (value == nullptr ? "(none)" : value) << '\n';
-}
-
-ExitCode Info(const Request& request) {
-  const Translator translator = FindTranslator(request);
-  if (translator == nullptr) return NoBundle(request);
-  PrintValue("Name:            ", translator->GetName());
-  PrintValue("Language:        ", translator->GetLanguageCode());
-  PrintValue("Country:         ", translator->GetCountryCode());
-  PrintValue("Long name:       ", translator->GetLongName());
-  PrintValue("Charset:         ", translator->GetCharset());
-  PrintValue("Direction:       ", translator->GetDirection());
-  PrintValue("Image directory: ", translator->GetImageDirectory());
-  PrintValue("Prompt suffix:   ", translator->GetPromptSuffix());
-  PrintValue("Id:              ", std::to_string(translator->GetId()).c_str());
-  return kFound;
-}
-
-ExitCode Bundles(const Request& request) {
-  const std::string directory =
-      request.resources.empty() ? FoundResourceDirectory() : request.resources;
-  const BundleListing listing = ListBundles(directory);
-  if (listing.empty()) return Fail(kNotFound, "no bundles found");
-  for (const auto& [bundle, locales] : listing) {
-    std::cout << bundle << ':';
-    for (const std::string& locale : locales) {
-      std::cout << ' ' << (locale.empty() ? "(default)" : locale);
-    }
-    std::cout << '\n';
-  }
-  return kFound;
-}
-
 using Command = ExitCode (*)(const Request&);
 
-/// The command that the arguments ask for; fills `request`. Throws CLI::ParseError.
-Command ParseArguments(CLI::App& app, int count, char** values, Request& request) {
-  app.require_subcommand(1);
-  app.add_option("--resources", request.resources,
-                 "Directory of the bundle files (otherwise the library searches for one)");
-
-  CLI::App* get = app.add_subcommand("get", "Print a text with the arguments inserted");
-  CLI::App* info = app.add_subcommand("info", "Print what a translator says of itself");
-  CLI::App* bundles = app.add_subcommand("bundles", "List the bundles and their locales");
-  for (CLI::App* command : {get, info}) {
-    command->add_option("BUNDLE", request.bundle, "Name of the bundle")->required();
-    command->add_option("LOCALE", request.locale, "Such as fr or fr-CA; \"\" for the default")
-        ->required();
+/// The commands of the tool and what they need to be told.
+class CommandLine {
+ public:
+  CommandLine() : app_("Texts of KxXlate catalogues", "kxxlate") {
+    app_.require_subcommand(1);
+    app_.set_version_flag("--version", std::string(getProductVersion()));
+    app_.add_option("--resources", request_.resources,
+                    "Directory of the catalogues (otherwise the library searches for one)");
+    TakesArguments(TakesKey(Add("get", Get, "Print a text with the arguments inserted")));
+    AddFormat();
+    TakesKey(Add("label", Label, "Print the label of a button"));
+    TakesKey(Add("prompt", Prompt, "Print a text with the language's prompt suffix"));
+    TakesKey(Add("directory", Directory, "Print a directory of the language"));
+    TakesBundle(Add("info", Info, "Print what a translator says of itself"));
+    Add("bundles", Bundles, "List the property bundles and their locales");
   }
-  get->add_option("KEY", request.key, "Key of the text")->required();
-  get->add_option("ARGUMENT", request.arguments, "Values for the markers; after -- also -1");
-  for (CLI::App* command : {get, info, bundles}) command->fallthrough();
 
-  app.parse(count, values);
-  return get->parsed() ? Get : info->parsed() ? Info : Bundles;
-}
+  /// Throws CLI::Error for what is no request, help and version included.
+  void Parse(int count, char** values) { app_.parse(count, values); }
+
+  void PrintMessage(const CLI::Success& success) { app_.exit(success); }
+
+  Command Chosen() const { return command_; }
+  const Request& Asked() const { return request_; }
+
+ private:
+  CLI::App* Add(const char* name, Command command, const char* description) {
+    CLI::App* added = app_.add_subcommand(name, description);
+    added->fallthrough();  // the common options may also stand behind the command
+    added->callback([this, command] { command_ = command; });
+    return added;
+  }
+
+  CLI::App* TakesBundle(CLI::App* command) {
+    command->add_option("BUNDLE", request_.bundle, "Name of the bundle or component")->required();
+    command->add_option("LOCALE", request_.locale, "Such as fr or fr-CA; \"\" for the default")
+        ->required();
+    return command;
+  }
+
+  CLI::App* TakesKey(CLI::App* command) {
+    TakesBundle(command)->add_option("KEY", request_.key, "What to look up")->required();
+    return command;
+  }
+
+  CLI::App* TakesArguments(CLI::App* command) {
+    command->add_option("ARGUMENT", request_.arguments, "Values for the markers; after -- also -1");
+    return command;
+  }
+
+  void AddFormat() {
+    CLI::App* format = Add("format", Format, "The same as hosts show it; an unknown key as itself");
+    TakesArguments(TakesKey(format));
+    format->add_flag("--show-key", request_.showKey, "Put the key in front");
+    format->add_flag("--admin-locale", request_.adminLocale,
+                     "Use the administrator's locale, if there is one, instead of LOCALE");
+  }
+
+  CLI::App app_;
+  Request request_;
+  Command command_ = nullptr;
+};
 
 ExitCode Run(int count, char** values) {
-  CLI::App app("Texts of KxXlate catalogues", "kxxlate");
-  Request request;
+  CommandLine line;
   try {
-    const Command command = ParseArguments(app, count, values, request);
-    if (!request.resources.empty()) {
-      if (!IsDirectory(request.resources)) {
-        return Fail(kCouldNotRun, "not a directory: " + request.resources);
-      }
-      CKxXlate::SetResourceDirectory(request.resources.c_str());
-    }
-    return command(request);
-  } catch (const CLI::Success& help) {
-    app.exit(help);
+    line.Parse(count, values);
+  } catch (const CLI::Success& success) {
+    line.PrintMessage(success);
     return kFound;
   } catch (const CLI::ParseError& error) {
     return Fail(kCouldNotRun, error.what());
   }
+  const std::string& resources = line.Asked().resources;
+  if (!resources.empty()) {
+    if (!IsDirectory(resources)) return Fail(kCouldNotRun, "not a directory: " + resources);
+    CKxXlate::SetResourceDirectory(resources.c_str());
+  }
+  return line.Chosen()(line.Asked());
 }
 
 }  // namespace
@@ -153,6 +101,7 @@ ExitCode Run(int count, char** values) {
 int main(int count, char** values) {
   try {
     const ExitCode code = Run(count, values);
+    CKxXlate::FreeCache();
     std::cout.flush();
     return std::cout ? code : Fail(kCouldNotRun, "cannot write to standard output");
   } catch (const std::exception& error) {

@@ -11,9 +11,9 @@
 
 #include "bundles/bundle_entries.h"
 #include "bundles/bundle_file_name.h"
-#include "bundles/key_hash.h"
 #include "bundles/parent_locale.h"
 #include "platform/critical_section.h"
+#include "platform/key_hash.h"
 #include "platform/thread_annotations.h"
 
 namespace bnd {
@@ -74,8 +74,7 @@ class Bundle {
     kx::ParentLocales walk(locale);
     BundleBase<T>* found = Find(walk.Current());
     while (found == nullptr && fallBack && walk.Next()) found = Find(walk.Current());
-    if (found != nullptr) Remember(locale, walk.Current().size(), *found);
-    return found;
+    return found == nullptr ? nullptr : Remember(locale, walk.Current().size(), *found);
   }
 
  private:
@@ -93,16 +92,20 @@ class Bundle {
   }
 
   /// Adds what `found` answered for `locale` and those of its parents that are longer than
-  /// `foundLength` bytes.
-  void Remember(std::string_view locale, std::size_t foundLength, BundleBase<T>& found)
+  /// `foundLength` bytes; answers the entry for `locale`, or `found` where that is not remembered.
+  BundleBase<T>* Remember(std::string_view locale, std::size_t foundLength, BundleBase<T>& found)
       KX_REQUIRES(lock_) {
+    BundleBase<T>* answer = &found;
     for (kx::ParentLocales walk(locale); walk.Current().size() > foundLength; walk.Next()) {
       if (walk.Current().size() > kMaxRememberedLocaleBytes) continue;
-      if (remembered_ == kMaxRememberedLocales) return;
-      Add(std::make_unique<BundleRef<T>>(name_, std::string(walk.Current()), *found.GetFile(),
-                                         found.IsDefault()));
+      if (remembered_ == kMaxRememberedLocales) break;
+      auto entry = std::make_unique<BundleRef<T>>(name_, std::string(walk.Current()),
+                                                  *found.GetFile(), found.IsDefault());
+      if (walk.Current().size() == locale.size()) answer = entry.get();
+      Add(std::move(entry));
       ++remembered_;
     }
+    return answer;
   }
 
   const std::string name_;

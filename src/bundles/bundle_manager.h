@@ -9,7 +9,7 @@
 
 #include "bundles/bundle.h"
 #include "bundles/bundle_entries.h"
-#include "bundles/key_hash.h"
+#include "platform/key_hash.h"
 #include "platform/directories.h"
 
 namespace bnd {

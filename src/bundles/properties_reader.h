@@ -6,7 +6,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "bundles/key_hash.h"
+#include "platform/key_hash.h"
 #include "bundles/property_key_pool.h"
 #include "log/problem_sink.h"
 

@@ -7,7 +7,7 @@
 
 #include "CKxXlate.h"
 #include "bundles/bundle_entries.h"
-#include "bundles/key_hash.h"
+#include "platform/key_hash.h"
 #include "bundles/properties_reader.h"
 #include "platform/critical_section.h"
 #include "platform/reference_count.h"

@@ -48,7 +48,7 @@ bool SearchEnvironment(SearchSources& sources, const char* subdirectory, std::st
 
 bool SearchWorkingDirectory(SearchSources& sources, const char* subdirectory,
                             std::string& directory, std::string& root) {
-  directory = std::string("./") + subdirectory;
+  directory.assign("./").append(subdirectory);
   if (!sources.IsDirectory(directory.c_str())) return false;
   root = ".";
   return true;

@@ -1,6 +1,10 @@
+#include <cstdint>
+
 #include "bundles/install_manager.h"
 #include "bundles/property_key_pool.h"
 #include "bundles/resource_directory.h"
+#include "lang/interned_strings.h"
+#include "lang/language_paths.h"
 #include "log/translation_log.h"
 
 namespace kx {
@@ -9,6 +13,10 @@ namespace {
 // Every object of the process lives in this file, because only inside one file does the language
 // fix the order in which they are made (top to bottom) and destroyed (bottom to top). Each folder
 // declares the accessor of its own object; nobody else may define a non-constant global.
+InternTable g_internTable;
+LanguagePaths g_languagePaths;
+std::uint32_t g_nextTranslatorId = 1;
+CriticalSection g_cacheLock;
 ResourceLocation g_resources;
 PropertyKeyPool g_keyPool;
 InstalledManagers g_managers;
@@ -19,6 +27,12 @@ TranslationLog g_log;
 
 }  // namespace
 
+InternTable& ProcessInternTable() { return g_internTable; }
+LanguagePaths& ProcessLanguagePaths() { return g_languagePaths; }
+CriticalSection& CacheLock() { return g_cacheLock; }
+LanguageContext ProcessLanguageContext() {
+  return {g_languagePaths, g_internTable, g_nextTranslatorId, g_log};
+}
 ResourceLocation& ProcessResources() { return g_resources; }
 PropertyKeyPool& ProcessKeyPool() { return g_keyPool; }
 InstalledManagers& ProcessManagers() { return g_managers; }

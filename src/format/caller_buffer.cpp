@@ -25,6 +25,12 @@ void CopyInsertion(char* dst, KxSize size, std::string_view text) {
   CopyTerminated(dst, text.size() > size ? text.substr(0, size - 1) : text);
 }
 
+void CopyVariableInsertion(char* dst, KxSize size, std::string_view text) {
+  if (IsAbsent(dst, size)) return;
+  std::memset(dst, 0, size);
+  CopyTerminated(dst, text.substr(0, size - 1));
+}
+
 bool AnswerLookup(char* dst, KxSize size, const char* found, const char* fallback) {
   if (IsAbsent(dst, size)) return false;
   const char* text = found != nullptr ? found : fallback;

@@ -21,6 +21,22 @@ constexpr bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) no
          });
 }
 
+/// Order by folded bytes, compared as unsigned values.
+struct LessIgnoringAsciiCase {
+  using is_transparent = void;
+
+  constexpr bool operator()(std::string_view a, std::string_view b) const noexcept {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return FoldAscii(x) < FoldAscii(y); });
+  }
+};
+
+/// Whether `text` begins with `prefix`, ASCII case apart.
+constexpr bool StartsWithIgnoringAsciiCase(std::string_view text,
+                                           std::string_view prefix) noexcept {
+  return EqualIgnoringAsciiCase(text.substr(0, prefix.size()), prefix);
+}
+
 /// Whether `text` ends with `suffix`, ASCII case apart.
 constexpr bool EndsWithIgnoringAsciiCase(std::string_view text, std::string_view suffix) noexcept {
   return text.size() >= suffix.size() &&

@@ -16,7 +16,7 @@ constexpr FileHandle kNoFile = -1;
 FileHandle OpenRegularFile(const char* path);
 
 /// Opens `path` (UTF-8) for writing at its end and creates it when missing; kNoFile when that is
-/// not possible. Never waits for another process.
+/// not possible or it is a pipe. Never waits for another process.
 FileHandle OpenForAppending(const char* path);
 
 /// Reads up to `size` bytes. 0 at the end of the file and when reading fails.

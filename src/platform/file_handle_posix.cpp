@@ -14,9 +14,9 @@ constexpr int kNeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 int Descriptor(FileHandle file) { return static_cast<int>(file); }
 
-bool IsRegularFile(int descriptor) {
+mode_t KindOf(int descriptor) {
   struct stat found;
-  return ::fstat(descriptor, &found) == 0 && S_ISREG(found.st_mode);
+  return ::fstat(descriptor, &found) == 0 ? found.st_mode & S_IFMT : 0;
 }
 
 }  // namespace
@@ -25,13 +25,17 @@ FileHandle OpenRegularFile(const char* path) {
   const int descriptor = ::open(path, O_RDONLY | kNeverWait);
   if (descriptor < 0) return kNoFile;
   // Asked of the open file, not of the path, which may name another file by now.
-  if (IsRegularFile(descriptor)) return descriptor;
+  if (KindOf(descriptor) == S_IFREG) return descriptor;
   ::close(descriptor);
   return kNoFile;
 }
 
 FileHandle OpenForAppending(const char* path) {
-  return ::open(path, O_WRONLY | O_APPEND | O_CREAT | kNeverWait, 0666);
+  const int descriptor = ::open(path, O_WRONLY | O_APPEND | O_CREAT | kNeverWait, 0666);
+  // A pipe's reader may go away, and the next write would then end the process.
+  if (descriptor < 0 || KindOf(descriptor) != S_IFIFO) return descriptor;
+  ::close(descriptor);
+  return kNoFile;
 }
 
 std::size_t ReadFileBlock(FileHandle file, char* block, std::size_t size) {

@@ -5,7 +5,8 @@
 
 /// What the library needs to know of a file or directory.
 struct KxFileStatus {
-  std::uint32_t mode = 0;  ///< kind bits, the same on every platform; see kKxModeDirectory
+  std::int64_t modified = 0;  ///< last change, in whole seconds since 1970-01-01 00:00 UTC
+  std::uint32_t mode = 0;     ///< kind bits, the same on every platform; see kKxModeDirectory
 };
 
 /// Bit of KxFileStatus::mode that says "directory".

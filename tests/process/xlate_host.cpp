@@ -2,47 +2,54 @@
 //
 //   text BUNDLE LOCALE KEY         prints the text, by GetBundle
 //   language BUNDLE LANGUAGE REGION KEY   prints the text, by GetLanguage
+//   copy BUNDLE LOCALE SIZE KEY DEFAULT   prints what GetText into a buffer answers, and the buffer
 //   info BUNDLE LOCALE             prints name, language and country
 //   use DIRECTORY                  prints what SetResourceDirectory answers
 //   keep BUNDLE LOCALE             gets a translator and keeps it
 //   kept KEY                       prints a text of the one kept last
 //   same BUNDLE LOCALE             prints whether GetBundle answers the one kept last again
+//   release                        releases the one kept last
+//   free                           calls FreeCache
+//   label BUNDLE LOCALE KEY        prints a label
+//   prompt BUNDLE LOCALE KEY DEFAULT   prints what GetPrompt answers, and the prompt
+//   directory BUNDLE LOCALE NAME   prints a directory
+//   header BUNDLE LOCALE           prints name, language, country, long name, charset, image
+//                                  directory, direction and prompt suffix, each followed by "|"
+//   id BUNDLE LOCALE               prints the translator's identifier
+//   write FILE TEXT                writes a file
+//   touch FILE SECONDS             sets a file's time of last change, in seconds since 1970
+//   remove FILE                    removes a file
 //   threads COUNT BUNDLE LOCALE KEY   COUNT threads, started together, look the text up; prints the
 //                                  number of different translators they got
 //   misses COUNT BUNDLE LOCALE     COUNT threads ask the one translator for the same 50 absent keys
 //   locales COUNT BUNDLE           COUNT threads ask for many locales; prints "done"
+//   churn COUNT BUNDLE LOCALE KEY FILE   COUNT threads look up a present and absent keys while
+//                                  others change the file's time and call FreeCache; prints "done"
 //
 // "(null)" as an argument passes a null pointer; a null answer is printed as "(null)". Kept
 // translators are released at the end.
 
-#include <atomic>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <iostream>
 #include <map>
-#include <set>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "CKxXlate.h"
+#include "process/host_steps.h"
 
 namespace {
-
-const char* Pointer(const std::string& argument) {
-  return argument == "(null)" ? nullptr : argument.c_str();
-}
-
-void Print(const char* text) { std::cout << (text == nullptr ? "(null)" : text) << std::endl; }
-
-void PrintTruth(bool truth) { Print(truth ? "true" : "false"); }
-
-using Arguments = std::vector<std::string>;
 
 class Host {
  public:
   ~Host() {
-    for (CKxXlate* translator : kept_) translator->Release();
+    for (CKxXlate* translator : kept_) {
+      if (translator != nullptr) translator->Release();
+    }
+    // Else the leak checker sees the languages that the cache leaves behind at the end.
+    CKxXlate::FreeCache();
   }
 
   bool Do(const std::string& step, const Arguments& arguments) {
@@ -79,64 +86,56 @@ class Host {
     kept_.push_back(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
   }
 
+  void ReleaseLast() {
+    kept_.back()->Release();
+    kept_.pop_back();
+  }
+
+  static void PrintLabel(const Arguments& a) {
+    const Held translator(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
+    Print(translator->GetLabel(Pointer(a[2])));
+  }
+
+  static void PrintPrompt(const Arguments& a) {
+    const Held translator(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
+    char prompt[256];
+    const bool found = translator->GetPrompt(prompt, sizeof prompt, Pointer(a[2]), Pointer(a[3]));
+    std::cout << (found ? "true " : "false ") << prompt << std::endl;
+  }
+
+  static void PrintCopy(const Arguments& a) {
+    const Held translator(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
+    std::vector<char> buffer(std::stoul(a[2]), 'Z');
+    const bool found = translator->GetText(buffer.data(), static_cast<KxSize>(buffer.size()),
+                                           Pointer(a[3]), Pointer(a[4]));
+    std::cout << (found ? "true " : "false ") << buffer.data() << std::endl;
+  }
+
+  static void PrintDirectory(const Arguments& a) {
+    const Held translator(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
+    Print(translator->GetDirectory(Pointer(a[2])));
+  }
+
+  static void PrintHeader(const Arguments& a) {
+    const Held translator(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
+    for (const char* value :
+         {translator->GetName(), translator->GetLanguageCode(), translator->GetCountryCode(),
+          translator->GetLongName(), translator->GetCharset(), translator->GetImageDirectory(),
+          translator->GetDirection(), translator->GetPromptSuffix()}) {
+      std::cout << (value == nullptr ? "(null)" : value) << '|';
+    }
+    std::cout << std::endl;
+  }
+
+  static void PrintId(const Arguments& a) {
+    const Held translator(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
+    std::cout << translator->GetId() << std::endl;
+  }
+
   void PrintSame(const Arguments& a) {
     CKxXlate* translator = CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1]));
     PrintTruth(translator == kept_.back());
     if (translator != nullptr) translator->Release();
-  }
-
-  /// Runs `work(thread)` in `count` threads that start together.
-  template <class Work>
-  static void InThreads(const std::string& count, Work work) {
-    std::atomic<bool> go = false;
-    std::vector<std::thread> threads;
-    for (int index = 0; index < std::atoi(count.c_str()); ++index) {
-      threads.emplace_back([&, index] {
-        while (!go) std::this_thread::yield();
-        work(index);
-      });
-    }
-    go = true;
-    for (std::thread& thread : threads) thread.join();
-  }
-
-  static void LookUpInThreads(const Arguments& a) {
-    std::vector<CKxXlate*> got(64);
-    InThreads(a[0], [&](int thread) {
-      CKxXlate* translator = CKxXlate::GetBundle(Pointer(a[1]), Pointer(a[2]));
-      if (translator->GetText(a[3].c_str()) == nullptr) std::abort();
-      got[static_cast<std::size_t>(thread)] = translator;
-    });
-    std::set<CKxXlate*> different(got.begin(), got.end());
-    different.erase(nullptr);
-    std::cout << different.size() << std::endl;
-    for (CKxXlate* translator : got) {
-      if (translator != nullptr) translator->Release();
-    }
-  }
-
-  static void MissInThreads(const Arguments& a) {
-    CKxXlate* translator = CKxXlate::GetBundle(Pointer(a[1]), Pointer(a[2]));
-    InThreads(a[0], [&](int) {
-      for (int key = 0; key < 50; ++key) {
-        if (translator->GetText(("ABSENT" + std::to_string(key)).c_str()) != nullptr) std::abort();
-      }
-    });
-    translator->Release();
-  }
-
-  static void AskForLocalesInThreads(const Arguments& a) {
-    InThreads(a[0], [&](int thread) {
-      for (int number = 0; number < 200; ++number) {
-        // Half of the locales are the threads' own, half are everybody's.
-        const int owner = number % 2 == 0 ? thread : 99;
-        const std::string locale = "fr-x" + std::to_string(owner) + "-" + std::to_string(number);
-        CKxXlate* translator = CKxXlate::GetBundle(Pointer(a[1]), locale.c_str());
-        if (translator == nullptr) std::abort();
-        translator->Release();
-      }
-    });
-    Print("done");
   }
 
   std::vector<CKxXlate*> kept_;
@@ -156,9 +155,21 @@ class Host {
       {"keep", {2, [this](const auto& a) { Keep(a); }}},
       {"kept", {1, [this](const auto& a) { Print(kept_.back()->GetText(Pointer(a[0]))); }}},
       {"same", {2, [this](const auto& a) { PrintSame(a); }}},
+      {"release", {0, [this](const auto&) { ReleaseLast(); }}},
+      {"free", {0, [](const auto&) { CKxXlate::FreeCache(); }}},
+      {"label", {3, [](const auto& a) { PrintLabel(a); }}},
+      {"prompt", {4, [](const auto& a) { PrintPrompt(a); }}},
+      {"copy", {5, [](const auto& a) { PrintCopy(a); }}},
+      {"directory", {3, [](const auto& a) { PrintDirectory(a); }}},
+      {"header", {2, [](const auto& a) { PrintHeader(a); }}},
+      {"id", {2, [](const auto& a) { PrintId(a); }}},
+      {"write", {2, [](const auto& a) { WriteFile(a[0], a[1]); }}},
+      {"touch", {2, [](const auto& a) { SetModified(a[0], std::atoll(a[1].c_str())); }}},
+      {"remove", {1, [](const auto& a) { std::filesystem::remove(HostPath(a[0])); }}},
       {"threads", {4, [](const auto& a) { LookUpInThreads(a); }}},
       {"misses", {3, [](const auto& a) { MissInThreads(a); }}},
       {"locales", {2, [](const auto& a) { AskForLocalesInThreads(a); }}},
+      {"churn", {5, [](const auto& a) { ChurnInThreads(a); }}},
   };
 };
 

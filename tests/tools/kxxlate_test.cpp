@@ -14,6 +14,11 @@ class Kxxlate : public testing::Test {
     tree_.Write("texts/agent_fr.properties", "Hello=Bonjour, %0\n");
     tree_.Write("texts/agent_fr_CA.properties", "Hello=Salut, %0\n");
     tree_.Write("texts/menu.properties", "Open=Open\n");
+    tree_.Write("texts/EN/(Common).lang", "Name English\n\nKey Yes\nValue Yes, %0\n");
+    tree_.Write("texts/FR/setup.lang",
+                "Name Francais\nCharset UTF-8\nImages /img/fr\nDirection LTR\n"
+                "Prompt Suffix :\nDirectory help /docs/fr\n\n"
+                "Key User\nValue Utilisateur\nButton Ok\nLabel D'accord\n");
   }
 
   /// Runs the tool from a copy in the tree, so that what it logs stays in the tree.
@@ -55,13 +60,45 @@ TEST_F(Kxxlate, GetPrintsLongTextsWhole) {
 }
 
 TEST_F(Kxxlate, AnswersOneForWhatIsNotFound) {
-  ExpectRun(1, "", "kxxlate: no bundle \"nope\" for locale \"fr\"\n",
-            RunOnTexts({"get", "nope", "fr", "Hello"}));
+  ExpectRun(1, "", "kxxlate: no bundle \"\" for locale \"fr\"\n",
+            RunOnTexts({"get", "", "fr", "Hello"}));
   ExpectRun(1, "", "kxxlate: no key \"NOPE\" in bundle \"agent\" for locale \"fr\"\n",
             RunOnTexts({"get", "agent", "fr", "NOPE"}));
-  ExpectRun(1, "", "kxxlate: no bundle \"nope\" for locale \"fr\"\n",
-            RunOnTexts({"info", "nope", "fr"}));
+  ExpectRun(1, "", "kxxlate: no label \"NOPE\" in bundle \"setup\" for locale \"fr\"\n",
+            RunOnTexts({"label", "setup", "fr", "NOPE"}));
+  ExpectRun(1, "", "kxxlate: no prompt \"NOPE\" in bundle \"setup\" for locale \"fr\"\n",
+            RunOnTexts({"prompt", "setup", "fr", "NOPE"}));
+  ExpectRun(1, "", "kxxlate: no directory \"NOPE\" in bundle \"setup\" for locale \"fr\"\n",
+            RunOnTexts({"directory", "setup", "fr", "NOPE"}));
   ExpectRun(1, "", "kxxlate: no bundles found\n", Run({"bundles"}));
+}
+
+TEST_F(Kxxlate, LooksUpLabelsPromptsAndDirectories) {
+  ExpectRun(0, "D'accord\n", "", RunOnTexts({"label", "setup", "fr", "ok"}));
+  ExpectRun(0, "Utilisateur:\n", "", RunOnTexts({"prompt", "setup", "fr", "User"}));
+  ExpectRun(0, "/docs/fr\n", "", RunOnTexts({"directory", "setup", "fr", "help"}));
+}
+
+TEST_F(Kxxlate, FormatShowsAMessageAsHostsDo) {
+  ExpectRun(0, "Bonjour, Ann\n", "", RunOnTexts({"format", "agent", "fr", "Hello", "Ann"}));
+  ExpectRun(0, "[Hello] Bonjour, Ann\n", "",
+            RunOnTexts({"format", "--show-key", "agent", "fr", "Hello", "Ann"}));
+  ExpectRun(0, "Yes, Ann\n", "", RunOnTexts({"format", "nope", "fr", "Yes", "Ann"}));
+}
+
+TEST_F(Kxxlate, FormatShowsAnUnknownKeyAsItselfAndAnswersOne) {
+  ExpectRun(1, "NOPE (Ann)\n", "kxxlate: no key \"NOPE\" in bundle \"agent\" for locale \"fr\"\n",
+            RunOnTexts({"format", "agent", "fr", "NOPE", "Ann"}));
+}
+
+TEST_F(Kxxlate, FormatTakesTheAdministratorsLocaleWhenAsked) {
+  tree_.SetEnvironment("LC_ALL", "fr_CA.UTF-8");
+  ExpectRun(0, "Salut, Ann\n", "",
+            RunOnTexts({"format", "--admin-locale", "agent", "en", "Hello", "Ann"}));
+}
+
+TEST_F(Kxxlate, PrintsTheVersion) {
+  ExpectRun(0, "Vantorel version 12.8.0801.3003 [KxXlate.dll in common]\n", "", Run({"--version"}));
 }
 
 TEST_F(Kxxlate, AnswersTwoWhenItCannotRun) {
@@ -84,6 +121,20 @@ TEST_F(Kxxlate, InfoPrintsWhatTheTranslatorSays) {
             "Prompt suffix:   (none)\n"
             "Id:              0\n",
             "", RunOnTexts({"info", "agent", "FR_ca"}));
+}
+
+TEST_F(Kxxlate, InfoPrintsTheHeaderOfALanguage) {
+  ExpectRun(0,
+            "Name:            setup\n"
+            "Language:        FR\n"
+            "Country:         \n"
+            "Long name:       Francais\n"
+            "Charset:         UTF-8\n"
+            "Direction:       LTR\n"
+            "Image directory: /img/fr\n"
+            "Prompt suffix:   :\n"
+            "Id:              1\n",
+            "", RunOnTexts({"info", "setup", "fr"}));
 }
 
 TEST_F(Kxxlate, BundlesListsTheirLocales) {

@@ -1,5 +1,5 @@
-#ifndef KX_BUNDLES_KEY_HASH_H
-#define KX_BUNDLES_KEY_HASH_H
+#ifndef KX_PLATFORM_KEY_HASH_H
+#define KX_PLATFORM_KEY_HASH_H
 
 #include <cstddef>
 #include <cstdint>
@@ -11,8 +11,10 @@ namespace kx {
 
 constexpr std::uint64_t kHashFactor = 65599;
 
-/// Hash of property keys and locales: ASCII case does not count.
+/// Hash of keys and locales: ASCII case does not count.
 struct KeyHash {
+  using is_transparent = void;
+
   std::size_t operator()(std::string_view key) const noexcept {
     std::uint64_t hash = 0;
     for (const char c : key) hash = hash * kHashFactor + FoldAscii(c);
@@ -22,6 +24,8 @@ struct KeyHash {
 
 /// Equality that goes with KeyHash.
 struct KeyEqual {
+  using is_transparent = void;
+
   bool operator()(std::string_view a, std::string_view b) const noexcept {
     return EqualIgnoringAsciiCase(a, b);
   }
@@ -38,4 +42,4 @@ struct NameHash {
 
 }  // namespace kx
 
-#endif  // KX_BUNDLES_KEY_HASH_H
+#endif  // KX_PLATFORM_KEY_HASH_H

@@ -1,0 +1,100 @@
+#include "core/language_cache.h"
+
+#include <memory>
+#include <utility>
+
+#include "bundles/resource_directory.h"
+#include "platform/thread_annotations.h"
+
+namespace kx {
+namespace {
+
+constexpr char kEnglish[] = "EN";
+
+struct ReleaseTranslator {
+  void operator()(CRealKxXlate* translator) const { translator->Release(); }
+};
+/// Destroys a translator that nobody holds yet when something fails.
+using NewTranslator = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
+
+bool IsGiven(const char* text) { return text != nullptr && *text != '\0'; }
+
+std::string CacheKey(const char* name, const char* language, const char* region) {
+  std::string key = std::string(name).append("|").append(language);
+  if (IsGiven(region)) key.append("|").append(region);
+  return key;
+}
+
+/// Language files lie where the bundles lie, as that stands at the first lookup of a language; only
+/// when the load of the library left no root at all is there a search of their own.
+void ComputeOnce(LanguagePaths& paths, const ResourceLocation& resources) {
+  if (paths.computed) return;
+  LanguagePaths found;
+  found.computed = true;
+  if (!resources.Root().empty()) {
+    found.root = resources.Root();
+    found.directory = resources.Directory();
+  } else {
+    FindResourceDirectory("Language", found.directory, found.root);
+  }
+  found.directory += '/';
+  paths = std::move(found);
+}
+
+/// The cache of this process, made when it is first needed.
+CRealKxXlateCache& ProcessCache() KX_REQUIRES(CacheLock()) {
+  static CRealKxXlateCache cache(ProcessLanguageContext());
+  return cache;
+}
+
+}  // namespace
+
+CRealKxXlate* CRealKxXlateCache::FindOrLoad(const char* name, const char* language,
+                                            const char* region) {
+  const std::string key = CacheKey(name, language, region);
+  const auto cached = translators_.find(key);
+  if (cached == translators_.end()) return Load(key, name, language, region);
+  if (cached->second->IsStale()) {
+    // The new one first: when there is no memory for it, the old one stays in use. And it is kept
+    // whether or not it found a file: only a language never read before falls back to English.
+    auto* fresh = new CRealKxXlate(context_, name, language, region);
+    fresh->AddRef();  // for the cache
+    std::exchange(cached->second, fresh)->Release();
+  }
+  cached->second->AddRef();  // for the caller
+  return cached->second;
+}
+
+// A language without files is not kept: the next request must look at the disk again, since the
+// files may have been installed meanwhile. Held by LanguageCache.AbsentLanguageIsTriedAgain.
+CRealKxXlate* CRealKxXlateCache::Load(const std::string& key, const char* name,
+                                      const char* language, const char* region) {
+  NewTranslator translator(new CRealKxXlate(context_, name, language, region));
+  if (!translator->AnyFileFound() && !EqualIgnoringAsciiCase(language, kEnglish)) return nullptr;
+  translators_.emplace(key, translator.get());
+  translator->AddRef();  // for the cache
+  translator->AddRef();  // for the caller
+  return translator.release();
+}
+
+void CRealKxXlateCache::Clear() {
+  for (const auto& [key, translator] : translators_) translator->Release();
+  translators_.clear();
+}
+
+CKxXlate* FindOrLoadLanguage(const char* name, const char* language, const char* region) {
+  {
+    const CriticalSectionGuard guard(CacheLock());
+    ComputeOnce(ProcessLanguagePaths(), ProcessResources());
+    if (auto* translator = ProcessCache().FindOrLoad(name, language, region)) return translator;
+  }
+  // English always has a translator. The lock was left, since it cannot be taken twice.
+  return FindOrLoadLanguage(name, kEnglish, nullptr);
+}
+
+void ClearLanguages() {
+  const CriticalSectionGuard guard(CacheLock());
+  ProcessCache().Clear();
+}
+
+}  // namespace kx

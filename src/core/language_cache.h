@@ -1,0 +1,57 @@
+#ifndef KX_CORE_LANGUAGE_CACHE_H
+#define KX_CORE_LANGUAGE_CACHE_H
+
+#include <map>
+#include <string>
+
+#include "lang/language_paths.h"
+#include "lang/real_kx_xlate.h"
+#include "platform/ascii_case.h"
+
+namespace kx {
+
+/// The languages that were read, by component, language and region (in any ASCII case). Holds one
+/// reference on each.
+///
+/// Not locked: the cache of the process is used under CacheLock.
+class CRealKxXlateCache {
+ public:
+  explicit CRealKxXlateCache(const LanguageContext& context) : context_(context) {}
+  CRealKxXlateCache(const CRealKxXlateCache&) = delete;
+  CRealKxXlateCache& operator=(const CRealKxXlateCache&) = delete;
+
+  /// Frees the map alone. When a process ends, hosts may still use what they hold; one that wants
+  /// the translators destroyed calls Clear before. Held by LanguageCache.EndingKeepsTranslators.
+  virtual ~CRealKxXlateCache() = default;
+
+  /// The translator of a component for a language, with a reference for the caller; read anew when
+  /// one of its files changed, even if no file is left by then.
+  ///
+  /// @param name, language  not null
+  /// @param region          null or "" for none
+  /// @return null when there are no files for a language other than English
+  ///
+  /// Throws std::bad_alloc only, with the cache as it was.
+  CRealKxXlate* FindOrLoad(const char* name, const char* language, const char* region);
+
+  /// Gives back the reference on each translator, in the order of the keys, and forgets them.
+  void Clear();
+
+ private:
+  CRealKxXlate* Load(const std::string& key, const char* name, const char* language,
+                     const char* region);
+
+  const LanguageContext context_;
+  std::map<std::string, CRealKxXlate*, LessIgnoringAsciiCase> translators_;
+};
+
+/// The translator of a component for a language or, when that has no files, for English, with a
+/// reference for the caller. Never null. Takes CacheLock.
+CKxXlate* FindOrLoadLanguage(const char* name, const char* language, const char* region);
+
+/// Forgets all languages that were read. Takes CacheLock.
+void ClearLanguages();
+
+}  // namespace kx
+
+#endif  // KX_CORE_LANGUAGE_CACHE_H

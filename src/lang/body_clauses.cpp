@@ -1,0 +1,85 @@
+#include "lang/body_clauses.h"
+
+#include <string_view>
+
+#include "platform/ascii_case.h"
+
+namespace kx {
+namespace {
+
+using Open = LangFileParser::Open;
+
+struct Clause {
+  std::string_view keyword;
+  Open opens;  ///< what a line with this keyword leaves open
+};
+
+// Names must be followed by a blank; values may also be empty and end the line.
+constexpr Clause kNameClauses[] = {{"Key", Open::kKey}, {"Button", Open::kButton}};
+constexpr Clause kValueClauses[] = {
+    {"Val", Open::kValue}, {"Value", Open::kValue}, {"Label", Open::kLabel}};
+
+void OpenPair(LangFileParser& parser, LanguageContents& contents, const Clause& clause,
+              const char* name) {
+  CommitPendingPair(parser, contents);
+  parser.open = clause.opens;
+  parser.name = name;
+}
+
+// A value that nothing waits for drops the open pair as well, even a complete one: of two values
+// for one key neither is stored.
+void TakeValue(LangFileParser& parser, const Clause& clause, const char* text) {
+  const Open awaited = clause.opens == Open::kValue ? Open::kKey : Open::kButton;
+  if (parser.open != awaited) {
+    parser.Report(LangProblem::kValueWithoutKey);
+    parser.Reset();
+    return;
+  }
+  parser.open = clause.opens;
+  parser.text = text;
+}
+
+void Continue(LangFileParser& parser, const char* text) {
+  switch (parser.open) {
+    case Open::kKey:
+    case Open::kButton: parser.name += text; return;
+    case Open::kValue:
+    case Open::kLabel: parser.text += text; return;
+    case Open::kNothing: parser.Report(LangProblem::kUnrecognizedContinuation); return;
+  }
+}
+
+}  // namespace
+
+void ParseBodyClause(LangFileParser& parser, LanguageContents& contents) {
+  const std::string_view line = parser.cursor;
+  if (line.front() == '&') return Continue(parser, parser.cursor + 1);
+  for (const Clause& clause : kNameClauses) {
+    if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
+    const char* behind = parser.cursor + clause.keyword.size();
+    if (*behind == ' ') return OpenPair(parser, contents, clause, SkipWhiteSpace(behind));
+  }
+  for (const Clause& clause : kValueClauses) {
+    if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
+    const char* behind = parser.cursor + clause.keyword.size();
+    if (*behind == ' ' || *behind == '\0') return TakeValue(parser, clause, SkipWhiteSpace(behind));
+  }
+  parser.Report(LangProblem::kUnrecognizedText);
+}
+
+void CommitPendingPair(LangFileParser& parser, LanguageContents& contents) {
+  switch (parser.open) {
+    case Open::kNothing: break;
+    case Open::kKey:
+    case Open::kButton: parser.Report(LangProblem::kKeyWithoutValue); break;
+    case Open::kValue:
+      contents.texts.Set(parser.name, parser.strings.InternString(parser.text.c_str()));
+      break;
+    case Open::kLabel:
+      contents.labels.Set(parser.name, parser.strings.InternString(parser.text.c_str()));
+      break;
+  }
+  parser.Reset();
+}
+
+}  // namespace kx

@@ -1,0 +1,142 @@
+#include "lang/real_kx_xlate.h"
+
+#include <cstring>
+
+#include "format/caller_buffer.h"
+#include "lang/lang_problems.h"
+#include "log/translation_log.h"
+#include "platform/file_status.h"
+#include "platform/utf8_text.h"
+
+namespace {
+
+constexpr char kEnglish[] = "EN";
+constexpr char kDefaultCharset[] = "ISO-8859-1";
+
+bool IsGiven(const char* text) { return text != nullptr && *text != '\0'; }
+
+std::string DisplayName(const std::string& languageCode, const char* country, const char* name) {
+  std::string displayName = languageCode;
+  if (IsGiven(country)) displayName.append("-").append(country);
+  return displayName.append(" (").append(name).append(")");
+}
+
+}  // namespace
+
+CRealKxXlate::CRealKxXlate(const kx::LanguageContext& context, const char* name,
+                           const char* language, const char* country)
+    : name_(name),
+      languageCode_(CKxUTF8ToUpper(language).Text()),
+      displayName_(DisplayName(languageCode_, country, name)),
+      logRoot_(context.paths.root),
+      log_(context.log) {
+  LoadFiles(context, country);
+  if (!anyFileFound_ && languageCode_ != kEnglish) {
+    log_.WriteLine(logRoot_, {kx::NoFilesLine(displayName_)});
+  }
+  if (contents_.charset.empty()) contents_.charset = kDefaultCharset;
+  id_ = context.nextId++;
+}
+
+void CRealKxXlate::LoadFiles(const kx::LanguageContext& context, const char* country) {
+  std::size_t next = 0;
+  const auto load = [&](const std::string& name) {
+    const std::string relative = kx::LangFileName(languageCode_, countryCode_, name);
+    anyFileFound_ |= kx::LoadLangFile(context, relative, contents_, candidates_[next++]);
+  };
+  // Each later file overrides the ones before it, so the most specific comes last.
+  load("");
+  load(name_);
+  if (!IsGiven(country)) return;
+  countryCode_ = CKxUTF8ToUpper(country).Text();
+  load("");
+  load(name_);
+}
+
+void CRealKxXlate::Release() {
+  if (references_.Drop()) delete this;
+}
+
+void CRealKxXlate::AddRef() { references_.Add(); }
+
+const char* CRealKxXlate::GetName() { return name_.c_str(); }
+
+const char* CRealKxXlate::GetLanguageCode() { return languageCode_.c_str(); }
+
+const char* CRealKxXlate::GetCountryCode() { return countryCode_.c_str(); }
+
+const char* CRealKxXlate::GetLongName() { return contents_.longName; }
+
+const char* CRealKxXlate::GetCharset() { return contents_.charset.c_str(); }
+
+std::uint32_t CRealKxXlate::GetId() { return id_; }
+
+const char* CRealKxXlate::GetImageDirectory() { return contents_.imageDirectory; }
+
+const char* CRealKxXlate::GetDirection() { return contents_.direction.c_str(); }
+
+const char* CRealKxXlate::GetPromptSuffix() { return contents_.promptSuffix; }
+
+const char* CRealKxXlate::GetDirectory(const char* name) {
+  return FindKey(contents_.directories, missingDirectories_, name);
+}
+
+bool CRealKxXlate::GetDirectory(char* dst, KxSize size, const char* name) {
+  return kx::AnswerLookup(dst, size, GetDirectory(name), nullptr);
+}
+
+const char* CRealKxXlate::GetText(const char* key) {
+  return FindKey(contents_.texts, missingTexts_, key);
+}
+
+bool CRealKxXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
+  return kx::AnswerLookup(dst, size, GetText(key), dflt);
+}
+
+const char* CRealKxXlate::GetLabel(const char* key) {
+  return FindKey(contents_.labels, missingLabels_, key);
+}
+
+bool CRealKxXlate::GetLabel(char* dst, KxSize size, const char* key) {
+  return kx::AnswerLookup(dst, size, GetLabel(key), nullptr);
+}
+
+bool CRealKxXlate::GetPrompt(char* dst, KxSize size, const char* key, const char* dflt) {
+  const bool found = GetText(dst, size, key, dflt);
+  const char* suffix = contents_.promptSuffix;
+  if (dst == nullptr || size == 0 || suffix == nullptr || *dst == '\0') return found;
+  const std::size_t length = std::strlen(dst);
+  // A default gets the suffix, too; the suffix is never cut.
+  if (std::strlen(suffix) + length < size) {
+    kx::CopyLookupText(dst + length, static_cast<KxSize>(size - length), suffix);
+  }
+  return found;
+}
+
+const char* CRealKxXlate::GetDisplayName() { return displayName_.c_str(); }
+
+bool CRealKxXlate::IsStale() const {
+  for (const kx::LangCandidate& candidate : candidates_) {
+    if (candidate.path.empty() || candidate.modified == 0) continue;
+    KxFileStatus status;
+    if (KxStat(candidate.path.c_str(), &status) != 0) return true;
+    if (status.modified != candidate.modified) return true;
+  }
+  return false;
+}
+
+const char* CRealKxXlate::FindKey(const kx::LanguageTable& table, MissingKeys& missing,
+                                  const char* key) {
+  if (!IsGiven(key)) return nullptr;
+  const char* value = table.Find(key);
+  // A language without files lacks every key: not worth a line.
+  if (value == nullptr && anyFileFound_) NoteMissingKey(missing, key);
+  return value;
+}
+
+void CRealKxXlate::NoteMissingKey(MissingKeys& missing, std::string_view key) {
+  const kx::CriticalSectionGuard guard(lock_);
+  if (missing.find(key) != missing.end()) return;
+  missing.emplace(key);
+  log_.WriteLine(logRoot_, {displayName_, kx::kKeyNotFound, key});
+}
