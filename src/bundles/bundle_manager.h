@@ -9,8 +9,8 @@
 
 #include "bundles/bundle.h"
 #include "bundles/bundle_entries.h"
-#include "platform/key_hash.h"
 #include "platform/directories.h"
+#include "platform/key_hash.h"
 
 namespace bnd {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <unordered_map>
 
-#include "platform/key_hash.h"
 #include "bundles/property_key_pool.h"
 #include "log/problem_sink.h"
+#include "platform/key_hash.h"
 
 namespace kx {
 

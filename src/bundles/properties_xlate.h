@@ -7,9 +7,9 @@
 
 #include "CKxXlate.h"
 #include "bundles/bundle_entries.h"
-#include "platform/key_hash.h"
 #include "bundles/properties_reader.h"
 #include "platform/critical_section.h"
+#include "platform/key_hash.h"
 #include "platform/reference_count.h"
 #include "platform/thread_annotations.h"
 

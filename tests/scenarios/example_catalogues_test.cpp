@@ -19,8 +19,8 @@ class ExampleCatalogue : public testing::TestWithParam<std::tuple<const char*, c
  protected:
   /// The keys of a file that must be without problems.
   std::set<std::string> KeysOf(const std::string& bundle, const std::string& locale) {
-    const std::string path = KXXLATE_EXAMPLE_CATALOGUES "/resources/" + bundle + '_' + locale +
-                             ".properties";
+    const std::string path =
+        KXXLATE_EXAMPLE_CATALOGUES "/resources/" + bundle + '_' + locale + ".properties";
     std::ifstream stream(path, std::ios::binary);
     EXPECT_TRUE(stream.is_open()) << path;
     kx::PropertyTable table;

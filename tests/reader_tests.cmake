@@ -1,0 +1,32 @@
+# What turns bytes into texts: the insertion of values, the reader of .properties files, and the
+# text functions below both.
+kxxlate_unit_test(format_test
+  format/caller_buffer_test.cpp
+  format/insert_entries_test.cpp
+  format/insertion_buffer_test.cpp
+  format/insertion_model_test.cpp
+  format/positional_insertion_test.cpp)
+
+kxxlate_unit_test(bundle_reader_test
+  bundles/properties_file_test.cpp
+  bundles/properties_line_test.cpp
+  bundles/properties_model_test.cpp
+  bundles/properties_reader_test.cpp
+  bundles/properties_rows.h
+  bundles/properties_value_test.cpp
+  bundles/property_key_pool_test.cpp
+  bundles/utf8_check_test.cpp
+  support/special_files.h)
+
+kxxlate_unit_test(platform_text_test
+  platform/ascii_case_test.cpp
+  platform/key_hash_test.cpp
+  platform/utf8_text_test.cpp)
+
+# Replaces operator new, so apart from all the others.
+kxxlate_unit_test(reader_memory_test
+  bundles/properties_memory_test.cpp
+  bundles/properties_rows.h
+  format/insertion_memory_test.cpp
+  support/failing_new.cpp
+  support/failing_new.h)

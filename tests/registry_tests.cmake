@@ -1,0 +1,18 @@
+kxxlate_unit_test(bundle_registry_test
+  bundles/bundle_entries_test.cpp
+  bundles/bundle_file_name_test.cpp
+  bundles/bundle_memory_test.cpp
+  bundles/bundle_test.cpp
+  bundles/install_manager_test.cpp
+  bundles/parent_locale_test.cpp
+  bundles/properties_bundle_test.cpp
+  bundles/properties_xlate_test.cpp
+  bundles/split_locale_test.cpp
+  bundles/xlate_manager_test.cpp
+  scenarios/property_fallback_test.cpp)
+
+kxxlate_host_test(abi_test
+  abi/slot_order_test.cpp)
+
+kxxlate_host_test(property_process_test
+  process/property_lookup_test.cpp)
