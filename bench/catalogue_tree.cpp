@@ -17,6 +17,16 @@ std::string PropertiesOfAllKeys() {
   return text.str();
 }
 
+std::string LanguageOfAllKeys() {
+  std::ostringstream text;
+  text << "Name French\n\n";
+  for (int number = 0; number < CatalogueTree::kKeys; ++number) {
+    text << "Key " << CatalogueTree::Key(number)
+         << "\nValue The task %0 on server %1 ended with state " << number << ".\n";
+  }
+  return text.str();
+}
+
 void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
 }
@@ -39,6 +49,8 @@ CatalogueTree::CatalogueTree() {
   for (int number = 0; number < kLoadBundles; ++number) {
     WriteFile(root_ / ("load" + std::to_string(number) + ".properties"), properties);
   }
+  std::filesystem::create_directory(root_ / "FR");
+  WriteFile(root_ / "FR" / "language.lang", LanguageOfAllKeys());
   CKxXlate::SetResourceDirectory(root_.string().c_str());
 }
 

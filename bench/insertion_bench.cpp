@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <cstdarg>
 #include <cstdio>
 
 #include "CKxXlate.h"
@@ -25,6 +26,32 @@ void PrintTwoArguments(benchmark::State& state) {
   }
 }
 
+void InsertVariableTwoArguments(benchmark::State& state) {
+  char line[256];
+  for (auto _ : state) {
+    CKxXlate::InsertVariable(line, sizeof line, "The task %s:1 ended after %d:2 minutes.", "backup",
+                             17);
+    benchmark::ClobberMemory();
+  }
+}
+
+void InsertList(char* buffer, KxSize size, const char* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  CKxXlate::InsertVariableVA(buffer, size, format, arguments);
+  va_end(arguments);
+}
+
+void InsertVariableVATwoArguments(benchmark::State& state) {
+  char line[256];
+  for (auto _ : state) {
+    InsertList(line, sizeof line, "The task %s:1 ended after %d:2 minutes.", "backup", 17);
+    benchmark::ClobberMemory();
+  }
+}
+
+BENCHMARK(InsertVariableTwoArguments);
+BENCHMARK(InsertVariableVATwoArguments);
 BENCHMARK(InsertTwoArguments);
 BENCHMARK(PrintTwoArguments);
 

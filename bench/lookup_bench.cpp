@@ -14,6 +14,12 @@ CKxXlate* Translator() {
   return translator;
 }
 
+CKxXlate* Language() {
+  CatalogueTree::Use();
+  static CKxXlate* const translator = CKxXlate::GetBundle("language", "fr");
+  return translator;
+}
+
 std::vector<std::string> Keys(const std::string& prefix) {
   std::vector<std::string> keys;
   for (int number = 0; number < 1000; ++number) {
@@ -22,8 +28,7 @@ std::vector<std::string> Keys(const std::string& prefix) {
   return keys;
 }
 
-void LookUp(benchmark::State& state, const std::string& prefix) {
-  CKxXlate* translator = Translator();
+void LookUp(benchmark::State& state, CKxXlate* translator, const std::string& prefix) {
   const std::vector<std::string> keys = Keys(prefix);
   std::size_t next = 0;
   for (auto _ : state) {
@@ -32,10 +37,12 @@ void LookUp(benchmark::State& state, const std::string& prefix) {
   }
 }
 
-void Hit(benchmark::State& state) { LookUp(state, ""); }
+void Hit(benchmark::State& state) { LookUp(state, Translator(), ""); }
+void LanguageHit(benchmark::State& state) { LookUp(state, Language(), ""); }
 
 // The first miss of each key writes a log line; what is measured are the many that follow.
-void RepeatedMiss(benchmark::State& state) { LookUp(state, "ABSENT_"); }
+void RepeatedMiss(benchmark::State& state) { LookUp(state, Translator(), "ABSENT_"); }
+void LanguageRepeatedMiss(benchmark::State& state) { LookUp(state, Language(), "ABSENT_"); }
 
 void HitIntoBuffer(benchmark::State& state) {
   CKxXlate* translator = Translator();
@@ -52,6 +59,21 @@ void AcquireAndRelease(benchmark::State& state, const char* locale) {
   for (auto _ : state) CKxXlate::GetBundle("bench", locale)->Release();
 }
 
+// Asks the system for the status of the files each time.
+void AcquireAndReleaseLanguage(benchmark::State& state) {
+  Language();
+  for (auto _ : state) CKxXlate::GetBundle("language", "fr")->Release();
+}
+
+void LoadLanguage(benchmark::State& state) {
+  Language();
+  for (auto _ : state) {
+    CKxXlate::FreeCache();
+    CKxXlate::GetBundle("language", "fr")->Release();
+  }
+  state.SetItemsProcessed(state.iterations() * CatalogueTree::kKeys);
+}
+
 void LoadFile(benchmark::State& state) {
   Translator();
   static int number = 0;
@@ -63,10 +85,14 @@ void LoadFile(benchmark::State& state) {
 }
 
 BENCHMARK(Hit)->ThreadRange(1, 4);
+BENCHMARK(LanguageHit)->ThreadRange(1, 4);
 BENCHMARK(HitIntoBuffer);
 BENCHMARK(RepeatedMiss)->ThreadRange(1, 4);
+BENCHMARK(LanguageRepeatedMiss)->ThreadRange(1, 4);
 BENCHMARK_CAPTURE(AcquireAndRelease, exact_locale, "fr-CA")->ThreadRange(1, 4);
 BENCHMARK_CAPTURE(AcquireAndRelease, fallback_locale, "fr-BE");
 BENCHMARK(LoadFile)->Iterations(CatalogueTree::kLoadBundles)->Unit(benchmark::kMillisecond);
+BENCHMARK(AcquireAndReleaseLanguage);
+BENCHMARK(LoadLanguage)->Unit(benchmark::kMillisecond);
 
 }  // namespace

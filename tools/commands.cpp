@@ -80,6 +80,8 @@ ExitCode Format(const Request& request) {
   std::cout << CKxXlate::Format(&message, request.key.c_str()) << '\n';
   const Translator translator(message.translator);
   if (translator == nullptr) return NoBundle(request);
+  // A resolution leaves a reference more than the message owns.
+  const Translator surplus(message.translator);
   if (translator->GetText(request.key.c_str()) == nullptr) {
     return PrintFound(request, "key", nullptr);
   }

@@ -10,9 +10,10 @@
 /// @return the first remaining character, a place inside `text`
 char* KxUTF8Trim(char* text);
 
-/// The upper-case form of a UTF-8 text: letters of the ASCII, Latin-1, Greek and Cyrillic blocks
-/// that have a capital of the same length in bytes are turned into it; all else, broken sequences
-/// included, stays as it is. The same on every system and in every locale of the host.
+/// The upper-case form of a UTF-8 text: the small letters of the plain alphabets (ASCII, Latin-1,
+/// Greek without accents, Cyrillic of U+0430 to U+045F) become capitals; all else, broken sequences
+/// included, stays as it is. That is more than language codes need, and the same on every system
+/// and in every locale of the host.
 class CKxUTF8ToUpper {
  public:
   /// @param text  NUL-terminated UTF-8; not null

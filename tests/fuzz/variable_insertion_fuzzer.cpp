@@ -1,0 +1,62 @@
+// The texts of both variable insertions. Their types cannot be checked against the values, so the
+// values suit every type: all pointers point at a short terminated text that is also a terminated
+// wide text, and floating values come first, where only they are taken from.
+
+#include <array>
+#include <cstdarg>
+#include <string_view>
+
+#include "CKxXlate.h"
+#include "format/format_pieces.h"
+#include "format/printf_piece.h"
+#include "fuzz/fuzz_target.h"
+
+namespace {
+
+constexpr std::size_t kMostArguments = 40;
+constexpr KxSize kSize = 64;
+
+alignas(16) constexpr char kText[32] = "text";
+
+void InsertList(char* buffer, const char* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  CKxXlate::InsertVariableVA(buffer, kSize, format, arguments);
+  va_end(arguments);
+}
+
+/// Whether the values suit the text: there are enough, and none is read as a floating value and as
+/// a pointer.
+bool HasValuesFor(std::string_view text) {
+  std::array<kx::ArgumentKind, kMostArguments> kinds{};
+  for (const kx::FormatPiece& piece : kx::CutIntoPieces(text)) {
+    if (piece.isLiteral) continue;
+    if (piece.argIndex >= kMostArguments) return false;
+    const kx::ArgumentKind kind = kx::PrintfPiece(piece.text).Kind();
+    if (kind == kx::ArgumentKind::kUnread) continue;
+    kx::ArgumentKind& known = kinds[piece.argIndex];
+    const bool isDouble = kind == kx::ArgumentKind::kDouble;
+    const bool wasDouble = known == kx::ArgumentKind::kDouble;
+    if (known != kx::ArgumentKind::kUnread && isDouble != wasDouble) return false;
+    known = kind;
+  }
+  return true;
+}
+
+}  // namespace
+
+#define KX_TEN_TEXTS kText, kText, kText, kText, kText, kText, kText, kText, kText, kText
+#define KX_ALL_VALUES                                                                  \
+  1.5, -2.0, 1e300, 0.0, 5.0, 6.0, 7.0, 8.0, KX_TEN_TEXTS, KX_TEN_TEXTS, KX_TEN_TEXTS, \
+      KX_TEN_TEXTS, KX_TEN_TEXTS, KX_TEN_TEXTS
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const ExactText text(data, size);
+  const std::unique_ptr<char[]> buffer(new char[kSize]);
+  CKxXlate::InsertVariable(buffer.get(), kSize, text.Get(), KX_ALL_VALUES);
+  Require(buffer[kSize - 1] == '\0');
+  if (!HasValuesFor(text.Get())) return 0;
+  InsertList(buffer.get(), text.Get(), KX_ALL_VALUES);
+  Require(buffer[kSize - 1] == '\0');
+  return 0;
+}
