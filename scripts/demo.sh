@@ -31,5 +31,13 @@ kxxlate get agent de-AT SERVICE_STARTED backup alpha 4.2
 kxxlate get agent pt-BR SERVICE_STARTED backup alpha 4.2
 printf '\nValues that a text has no place for are kept:\n'
 kxxlate get agent fr-CA CANNOT_OPEN_FILE a.txt denied
+printf '\nLanguage files answer where there is no property bundle; those of Canada override:\n'
+kxxlate get gateway fr WELCOME Ann alpha
+kxxlate get gateway fr-CA WELCOME Ann alpha
+kxxlate prompt gateway fr-CA LOGIN_PROMPT
+kxxlate label gateway ar OK
+printf '\nA language without files is answered by English:\n'
+kxxlate get gateway pt WELCOME Ann alpha
 printf '\nWhat a translator says of itself:\n'
 kxxlate info agent fr-CA
+kxxlate info gateway ar
