@@ -50,10 +50,11 @@ class KXXLATE_API CKxXlate {
   /// The bundle's name. Never null. Slot 2.
   virtual const char* GetName() = 0;
 
-  /// The language code, such as "fr"; "" when the texts belong to no language. Slot 3.
+  /// The language code: upper case from language files ("FR"), as the file's name spells it from a
+  /// property bundle ("fr"), "" from a bundle's default. Slot 3.
   virtual const char* GetLanguageCode() = 0;
 
-  /// The country code, such as "CA"; "" when there is none. Slot 4.
+  /// The country code, in the same spelling; "" when there is none. Slot 4.
   virtual const char* GetCountryCode() = 0;
 
   /// The language's name for people, or null. Slot 5.
@@ -86,11 +87,11 @@ class KXXLATE_API CKxXlate {
   //
   //   GetDirectory  the path listed under `name` (any case); null, or "" and false, when absent
   //   GetText       the message text of `key` (any case). When absent: null; into a buffer `dflt`,
-  //                 or "" if that is null, and false. A key that is not found is written to the
-  //                 log once for each translator.
+  //                 or "" if that is null, and false
   //   GetLabel      the button label of `key` (any case); null, or "" and false, when absent
   //
-  // Null keys are never found.
+  // Null keys are never found. A key that is not found is written to the log, once for each
+  // translator and kind of lookup.
 #if defined(_MSC_VER)
   virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;              // 12
   virtual const char* GetDirectory(const char* name) = 0;                               // 11
@@ -121,8 +122,8 @@ class KXXLATE_API CKxXlate {
   ///
   /// The property bundles are asked first, with fallback (fr-CA, fr, then the bundle's default);
   /// then the language files of that language and region; then the English ones. The call
-  /// therefore answers a translator for any name, and an unknown key is noticed only later, by
-  /// GetText.
+  /// therefore answers a translator for any name, and an unknown name is noticed only later, by
+  /// lookups that find nothing.
   ///
   /// @param name    bundle name, in its exact case; null or "" answers null
   /// @param locale  "fr", "fr-CA" or "fr_CA", in any case; null or "" asks for a property bundle's
@@ -133,7 +134,9 @@ class KXXLATE_API CKxXlate {
   /// Any thread, at any time. A property file is read by the first call for it, while other callers
   /// of that file wait, and never again. The first call for a language, and the first after one of
   /// its files changed, reads files while all other language lookups of the process wait; a
-  /// language already read costs up to four file-status calls.
+  /// language already read costs up to four file-status calls, and one without files is looked for
+  /// again by each call. What was read for a locale is kept until FreeCache, so a host should pass
+  /// no strangers' locales that it does not know.
   ///
   /// Problems in the files go to translate.log or, for property files, to standard error. Throws
   /// std::bad_alloc only.
@@ -205,8 +208,8 @@ class KXXLATE_API CKxXlate {
   /// @param key    null is the empty text
   /// @return the text of the object's `output`, valid until it is formatted again or destroyed
   ///
-  /// Each lookup of the translator leaves one reference more than the object owns, which nobody
-  /// gives back: a translator found by Format is never destroyed. Hosts rely on it.
+  /// Each lookup of the translator leaves one reference more than the object owns: a host that
+  /// wants the translator destroyed in the end gives that back, too.
   ///
   /// Any thread, but one object must not be formatted by two threads at once. Throws
   /// std::bad_alloc, and what the virtual operations of the object's texts throw.
@@ -221,9 +224,8 @@ class KXXLATE_API CKxXlate {
   /// vanishes, with the byte behind it; so does a conversion without its digit. A tenth conversion
   /// takes no value.
   ///
-  /// @param buffer  filled with zeros, then with the result, cut to `size` - 1 bytes; null or a
-  /// size
-  ///                of 0 writes nothing
+  /// @param buffer  filled with zeros, then with the result, cut to `size` - 1 bytes; a null
+  ///                buffer or a size of 0 writes nothing
   /// @param format  the text; null is the empty text
   ///
   /// The values must have the types that the text says. A null text counts as empty. Reentrant,

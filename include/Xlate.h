@@ -6,8 +6,8 @@
 
 #include "CKxXlate.h"
 
-/// A string that the library changes through virtual operations, so that a host can derive a class
-/// that takes part in each change.
+/// A string that the library changes only through its virtual operations, so that each change is
+/// made by the host's own code and memory, whatever the library was built with.
 ///
 /// Header-only and owned by the hosts: the library neither makes nor destroys one. Null texts count
 /// as empty.

@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Builds the library with warnings as errors and runs every test.
 #
-#   scripts/test.sh [PRESET]     debug (the default), clang, asan or tsan
+#   scripts/test.sh [PRESET]     debug (the default), clang, asan, tsan, or mingw: for Windows, run
+#                                under wine
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
 
 preset=${1:-debug}
-packages=("${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}")
-[ "$preset" != clang ] || packages+=(clang)
+packages=("${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}")
+[ "$preset" != mingw ] || packages+=("${WINDOWS_PACKAGES[@]}")
 need_packages "${packages[@]}"
 echo "Building into build/$preset."
 cmake --preset "$preset" >/dev/null

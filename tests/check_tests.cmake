@@ -4,17 +4,39 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 add_test(NAME Sources.KeepTheirLayers
   COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/check_includes.py)
 
-add_test(NAME Library.ExportsTheAgreedNamesAndNoOthers
-  COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_exports.py
-    ${CMAKE_NM} $<TARGET_FILE:KxXlate> ${CMAKE_CURRENT_SOURCE_DIR}/abi/exports_linux.txt)
+if(WIN32)
+  add_test(NAME Library.ExportsAndNeedsTheAgreedAndNothingElse
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_windows_library.py
+      ${CMAKE_OBJDUMP} $<TARGET_FILE:KxXlate> ${CMAKE_CURRENT_SOURCE_DIR}/abi/exports_windows.txt
+      KERNEL32.dll msvcrt.dll)
+else()
+  add_test(NAME Library.ExportsTheAgreedNamesAndNoOthers
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_exports.py
+      ${CMAKE_NM} $<TARGET_FILE:KxXlate> ${CMAKE_CURRENT_SOURCE_DIR}/abi/exports_linux.txt)
 
-set(consumer_flags "")
+  # Whatever compiler builds the library: this one alone knows the layout of the other system.
+  find_program(KXXLATE_CLANG clang++ REQUIRED)
+  add_test(NAME Sources.KeepTheSlotsForMicrosoftsCompiler
+    COMMAND ${PROJECT_SOURCE_DIR}/tools/check_slots.sh ${KXXLATE_CLANG})
+endif()
+
+# The consumer is built as this project is, and run in the same way.
+set(consumer_options -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER})
+if(CMAKE_TOOLCHAIN_FILE)
+  set(consumer_options -DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE})
+endif()
 if(KXXLATE_SANITIZE)
-  set(consumer_flags "-fsanitize=${KXXLATE_SANITIZE}")
+  list(APPEND consumer_options -DCMAKE_CXX_FLAGS=-fsanitize=${KXXLATE_SANITIZE})
 endif()
 add_test(NAME Library.IsFoundByAnotherProjectOnceInstalled
   COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume_installed.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
-    ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer ${CMAKE_CXX_COMPILER} "${consumer_flags}")
+    ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer consumer${CMAKE_EXECUTABLE_SUFFIX}
+    ${consumer_options} -- ${CMAKE_CROSSCOMPILING_EMULATOR})
 
-set_tests_properties(Sources.KeepTheirLayers Library.ExportsTheAgreedNamesAndNoOthers
-  Library.IsFoundByAnotherProjectOnceInstalled PROPERTIES TIMEOUT 120)
+add_test(NAME Library.IsFoundByAnotherProjectOnceUnpacked
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume_package.sh ${CMAKE_CPACK_COMMAND}
+    ${PROJECT_BINARY_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer
+    consumer${CMAKE_EXECUTABLE_SUFFIX} ${consumer_options} -- ${CMAKE_CROSSCOMPILING_EMULATOR})
+
+get_property(checks DIRECTORY PROPERTY TESTS)
+set_tests_properties(${checks} PROPERTIES TIMEOUT 120)

@@ -15,8 +15,7 @@ kxxlate_unit_test(bundle_reader_test
   bundles/properties_rows.h
   bundles/properties_value_test.cpp
   bundles/property_key_pool_test.cpp
-  bundles/utf8_check_test.cpp
-  support/special_files.h)
+  bundles/utf8_check_test.cpp)
 
 kxxlate_unit_test(platform_text_test
   platform/ascii_case_test.cpp
@@ -27,6 +26,7 @@ kxxlate_unit_test(platform_text_test
 kxxlate_unit_test(reader_memory_test
   bundles/properties_memory_test.cpp
   bundles/properties_rows.h
+  bundles/lookup_memory_test.cpp
   format/insertion_memory_test.cpp
   support/failing_new.cpp
   support/failing_new.h)

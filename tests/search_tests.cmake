@@ -6,29 +6,53 @@ kxxlate_unit_test(search_test
 
 kxxlate_unit_test(log_test
   log/problem_sink_test.cpp
-  log/translation_log_failure_test.cpp
   log/translation_log_test.cpp
   log/translation_log_threads_test.cpp
-  support/lasting_log.h
-  support/special_files.h)
+  support/lasting_log.h)
+if(NOT WIN32)
+  target_sources(log_test PRIVATE log/translation_log_posix_test.cpp)
+endif()
 
 kxxlate_unit_test(platform_test
+  platform/entry_list.h
   platform/environment_test.cpp
   platform/executable_path_test.cpp
   platform/file_streams_test.cpp
   platform/files_test.cpp
-  support/special_files.h)
+  platform/stream_bytes.h)
+if(WIN32)
+  target_sources(platform_test PRIVATE platform/files_windows_test.cpp)
+else()
+  target_sources(platform_test PRIVATE
+    platform/file_effects_posix_test.cpp
+    platform/file_streams_posix_test.cpp
+    platform/files_posix_test.cpp)
+endif()
 
 kxxlate_host_test(process_test
   process/log_location_test.cpp
   process/resource_replacement_test.cpp
+  process/resource_search.h
   process/resource_search_test.cpp
   process/unloading_test.cpp)
+if(WIN32)
+  target_sources(process_test PRIVATE process/windows_search_test.cpp)
+else()
+  target_sources(process_test PRIVATE process/resource_search_posix_test.cpp)
+endif()
 add_dependencies(process_test unloading_host)
 target_compile_definitions(process_test PRIVATE
-  KXXLATE_LIBRARY="$<TARGET_FILE:KxXlate>"
-  KXXLATE_UNLOADING_HOST="$<TARGET_FILE:unloading_host>")
+  KXXLATE_LIBRARY="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:KxXlate>"
+  KXXLATE_UNLOADING_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:unloading_host>")
 if(KXXLATE_SANITIZE)
   # This check names the translator's type, which a host that does not link the library cannot.
   target_compile_options(unloading_host PRIVATE -fno-sanitize=vptr)
 endif()
+
+kxxlate_host_program(ending_host process/ending_host.cpp)
+target_link_libraries(ending_host PRIVATE KxXlate Threads::Threads)
+
+kxxlate_host_test(ending_test process/ending_test.cpp)
+add_dependencies(ending_test ending_host)
+target_compile_definitions(ending_test PRIVATE
+  KXXLATE_ENDING_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:ending_host>")

@@ -4,14 +4,16 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
 
-need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang-format clang-tidy clang
-mapfile -t sources < <(git ls-files '*.h' '*.cpp')
+need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" git clang-format clang-tidy clang
+listed=$(git ls-files '*.h' '*.cpp')
+mapfile -t sources <<<"$listed"
 echo "Format of ${#sources[@]} files."
 clang-format --dry-run -Werror "${sources[@]}"
 echo "Layers, platform conditionals, plain ASCII."
 tools/check_includes.py
 echo "Lints."
 cmake --preset clang -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
-mapfile -t linted < <(git ls-files 'src/*.cpp' 'tools/*.cpp')
+listed=$(git ls-files 'src/*.cpp' 'tools/*.cpp' ':!*_win32.cpp')
+mapfile -t linted <<<"$listed"
 printf '%s\0' "${linted[@]}" |
   xargs -0 -n 4 -P "$(nproc)" clang-tidy --quiet -p build/clang 2>/dev/null

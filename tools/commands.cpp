@@ -3,6 +3,7 @@
 #include <cstring>
 #include <iostream>
 #include <memory>
+#include <utility>
 
 #include "CKxXlate.h"
 #include "Xlate.h"
@@ -15,8 +16,19 @@ struct ReleaseTranslator {
 };
 using Translator = std::unique_ptr<CKxXlate, ReleaseTranslator>;
 
+/// Whether no file stands behind the translator: the library answers an empty English one for any
+/// name. (A language file has at least one line of header.)
+bool IsEmpty(CKxXlate& translator) {
+  return translator.GetId() != 0 && translator.GetLongName() == nullptr &&
+         translator.GetImageDirectory() == nullptr && translator.GetPromptSuffix() == nullptr &&
+         *translator.GetDirection() == '\0' &&
+         std::strcmp(translator.GetCharset(), "ISO-8859-1") == 0;
+}
+
+/// The translator that was asked for; null when there are no files for it.
 Translator FindTranslator(const Request& request) {
-  return Translator(CKxXlate::GetBundle(request.bundle.c_str(), request.locale.c_str()));
+  Translator found(CKxXlate::GetBundle(request.bundle.c_str(), request.locale.c_str()));
+  return found == nullptr || IsEmpty(*found) ? nullptr : std::move(found);
 }
 
 /// How the request calls the translator that it did not find, or the one that it found.

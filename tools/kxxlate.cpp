@@ -3,13 +3,18 @@
 // Exit code 0: found; 1: not found; 2: could not run. One line on standard error says why.
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "CKxXlate.h"
+#include "arguments.h"
 #include "bundle_listing.h"
 #include "commands.h"
+#include "console_output.h"
 
 namespace {
 
@@ -33,7 +38,10 @@ class CommandLine {
   }
 
   /// Throws CLI::Error for what is no request, help and version included.
-  void Parse(int count, char** values) { app_.parse(count, values); }
+  void Parse(std::vector<std::string> arguments) {
+    std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
+    app_.parse(std::move(arguments));
+  }
 
   void PrintMessage(const CLI::Success& success) { app_.exit(success); }
 
@@ -78,10 +86,10 @@ class CommandLine {
   Command command_ = nullptr;
 };
 
-ExitCode Run(int count, char** values) {
+ExitCode Run(const std::vector<std::string>& arguments) {
   CommandLine line;
   try {
-    line.Parse(count, values);
+    line.Parse(arguments);
   } catch (const CLI::Success& success) {
     line.PrintMessage(success);
     return kFound;
@@ -100,7 +108,8 @@ ExitCode Run(int count, char** values) {
 
 int main(int count, char** values) {
   try {
-    const ExitCode code = Run(count, values);
+    const ConsoleOutput console;
+    const ExitCode code = Run(Utf8Arguments(count, values));
     CKxXlate::FreeCache();
     std::cout.flush();
     return std::cout ? code : Fail(kCouldNotRun, "cannot write to standard output");

@@ -11,20 +11,23 @@
 
 namespace kx {
 
-bool InstalledManagers::InstallXlateManager(const char* directory) {
+bool InstalledManagers::InstallXlateManager(const char* directory, ResourceLocation& resources) {
   const CriticalSectionGuard guard(lock_);
   if (retired_ != nullptr) return false;
+  std::string stored = directory;
   auto manager = std::make_unique<XlateManager>(directory);
   KxTraverseDirectory(directory, manager.get());  // one that cannot be read holds no bundles
   manager->CompleteDefaults();
   retired_ = current_.load(std::memory_order_relaxed);
   current_.store(manager.release(), std::memory_order_release);
+  resources.SetDirectory(std::move(stored));
   return true;
 }
 
 bool InstallBundlesAtLoad(ResourceLocation& resources, InstalledManagers& managers) noexcept {
   try {
-    return resources.Locate() && managers.InstallXlateManager(resources.Directory().c_str());
+    return resources.Locate() &&
+           managers.InstallXlateManager(resources.Directory().c_str(), resources);
   } catch (const std::exception&) {
     return false;
   }
@@ -34,8 +37,5 @@ bool InstallBundlesAtLoad(ResourceLocation& resources, InstalledManagers& manage
 
 bool CKxXlate::SetResourceDirectory(const char* directory) {
   if (directory == nullptr) return false;
-  std::string stored = directory;
-  if (!kx::ProcessManagers().InstallXlateManager(directory)) return false;
-  kx::ProcessResources().SetDirectory(std::move(stored));
-  return true;
+  return kx::ProcessManagers().InstallXlateManager(directory, kx::ProcessResources());
 }

@@ -26,9 +26,10 @@ class InstalledManagers {
   /// The manager in use; null until one was installed. Any thread.
   const XlateManager* Current() const noexcept { return current_.load(std::memory_order_acquire); }
 
-  /// Reads `directory` (UTF-8, not null; need not exist) and puts its manager into use. False, with
-  /// nothing changed, when a manager has been replaced before.
-  bool InstallXlateManager(const char* directory) KX_EXCLUDES(lock_);
+  /// Reads `directory` (UTF-8, not null; need not exist), puts its manager into use and stores the
+  /// directory in `resources`. False, with nothing changed, when a manager has been replaced
+  /// before.
+  bool InstallXlateManager(const char* directory, ResourceLocation& resources) KX_EXCLUDES(lock_);
 
  private:
   std::atomic<const XlateManager*> current_ = nullptr;

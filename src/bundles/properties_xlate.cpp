@@ -1,7 +1,7 @@
 #include "bundles/properties_xlate.h"
 
 #include <ctime>
-#include <iostream>
+#include <ostream>
 
 #include "bundles/install_manager.h"
 #include "bundles/property_key_pool.h"
@@ -9,6 +9,7 @@
 #include "bundles/split_locale.h"
 #include "bundles/xlate_manager.h"
 #include "format/caller_buffer.h"
+#include "log/standard_output.h"
 #include "log/translation_log.h"
 
 PropertiesXlate::PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner) : owner_(owner) {
@@ -70,17 +71,23 @@ bool PropertiesXlate::GetPrompt(char* dst, KxSize size, const char* /*key*/, con
 }
 
 void PropertiesXlate::DumpTable() const {
-  std::cout << "Xlate " << owner_->BundleName() << '/' << owner_->Locale() << '\n';
-  for (const auto& [key, text] : texts_) std::cout << "   " << key << "=>" << text << '\n';
-  std::cout << std::endl;
+  kx::StandardOutputStream output;
+  output << "Xlate " << owner_->BundleName() << '/' << owner_->Locale() << '\n';
+  for (const auto& [key, text] : texts_) output << "   " << key << "=>" << text << '\n';
+  output << std::endl;
 }
 
 void PropertiesXlate::NoteMissingKey(const char* key) {
   const kx::CriticalSectionGuard guard(lock_);
   if (missingKeys_.find(key) != missingKeys_.end()) return;
-  missingKeys_.insert(kx::ProcessKeyPool().InternPropertyKey(key));
-  kx::ProcessLog().WriteLine(kx::ProcessResources().Root(),
-                             {owner_->Path(), " key not found: ", key});
+  const auto noted = missingKeys_.insert(kx::ProcessKeyPool().InternPropertyKey(key)).first;
+  try {
+    kx::ProcessLog().WriteLine(kx::ProcessResources().Root(),
+                               {owner_->Path(), " key not found: ", key});
+  } catch (...) {
+    missingKeys_.erase(noted);  // or the key would never be logged
+    throw;
+  }
 }
 
 namespace kx {

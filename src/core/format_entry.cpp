@@ -5,6 +5,7 @@
 
 #include "CKxXlate.h"
 #include "Xlate.h"
+#include "core/message_text.h"
 #include "format/positional_insertion.h"
 #include "platform/admin_locale.h"
 
@@ -12,16 +13,16 @@ namespace {
 
 constexpr std::size_t kMaxArguments = 16;
 
-// The new translator gets one reference more than GetBundle handed out, which nobody gives back.
-// Hosts rely on it: some release the translator twice. Held by
-// Format.EachResolutionLeavesAReference.
+// The new translator gets one reference more than GetBundle handed out: each resolution leaves a
+// reference that the message does not own, and hosts count with it. Held by
+// FormattedMessage.EachResolutionLeavesAReference.
 void ResolveOnce(Xlate& xlate) {
   if (xlate.resolved) return;
   if (xlate.useAdminLocale) {
-    xlate.useAdminLocale = false;
     if (const std::optional<std::string> locale = KxGetAdminLocale()) {
-      xlate.locale.Set(locale->c_str());
+      kx::SetMessageText(xlate.locale, locale->c_str());
     }
+    xlate.useAdminLocale = false;
   }
   CKxXlate* found = CKxXlate::GetBundle(xlate.bundleName.c_str(), xlate.locale.text.c_str());
   if (found != nullptr) found->AddRef();
@@ -57,14 +58,8 @@ const char* CKxXlate::Format(Xlate* xlate, const char* key) {
   const std::size_t count = SplitArguments(*xlate, arguments);
   std::string result;
   kx::InsertArguments(result, FindText(*xlate, key), count, arguments.data());
-  // Copied before the output is cleared, where a host may well have the key.
-  const std::string shownKey = key == nullptr ? "" : key;
-  xlate->output.Clear();
-  if (xlate->showKeys) {
-    xlate->output.Append("[");
-    xlate->output.Append(shownKey.c_str());
-    xlate->output.Append("] ");
-  }
-  xlate->output.AppendString(result);
+  // Copied first: a host may well have the key in the output, which is cleared.
+  const std::string shownKey = xlate->showKeys && key != nullptr ? key : "";
+  kx::SetMessageResult(xlate->output, xlate->showKeys ? shownKey.c_str() : nullptr, result);
   return xlate->output.text.c_str();
 }

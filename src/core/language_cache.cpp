@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "bundles/resource_directory.h"
+#include "platform/given_text.h"
 #include "platform/thread_annotations.h"
 
 namespace kx {
@@ -16,8 +17,6 @@ struct ReleaseTranslator {
 };
 /// Destroys a translator that nobody holds yet when something fails.
 using NewTranslator = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
-bool IsGiven(const char* text) { return text != nullptr && *text != '\0'; }
 
 std::string CacheKey(const char* name, const char* language, const char* region) {
   std::string key = std::string(name).append("|").append(language);
@@ -41,10 +40,11 @@ void ComputeOnce(LanguagePaths& paths, const ResourceLocation& resources) {
   paths = std::move(found);
 }
 
-/// The cache of this process, made when it is first needed.
+/// The cache of this process, made when it is first needed. Never destroyed: threads of a host may
+/// still look texts up while the process ends.
 CRealKxXlateCache& ProcessCache() KX_REQUIRES(CacheLock()) {
-  static CRealKxXlateCache cache(ProcessLanguageContext());
-  return cache;
+  static CRealKxXlateCache* const cache = new CRealKxXlateCache(ProcessLanguageContext());
+  return *cache;
 }
 
 }  // namespace

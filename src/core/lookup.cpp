@@ -4,17 +4,16 @@
 #include "bundles/properties_xlate.h"
 #include "bundles/split_locale.h"
 #include "core/language_cache.h"
+#include "platform/given_text.h"
 
 namespace {
 
 constexpr char kEnglish[] = "en";
 
-bool IsNullOrEmpty(const char* text) { return text == nullptr || *text == '\0'; }
-
 }  // namespace
 
 CKxXlate* CKxXlate::GetBundle(const char* name, const char* locale) {
-  if (IsNullOrEmpty(name)) return nullptr;
+  if (!kx::IsGiven(name)) return nullptr;
   const char* asked = locale == nullptr ? "" : locale;
   if (CKxXlate* translator = kx::GetPropertiesBundle(name, asked)) return translator;
   std::string language;
@@ -24,10 +23,10 @@ CKxXlate* CKxXlate::GetBundle(const char* name, const char* locale) {
 }
 
 CKxXlate* CKxXlate::GetLanguage(const char* name, const char* language, const char* region) {
-  if (IsNullOrEmpty(name)) return nullptr;
-  const char* asked = IsNullOrEmpty(language) ? kEnglish : language;
+  if (!kx::IsGiven(name)) return nullptr;
+  const char* asked = kx::IsGiven(language) ? language : kEnglish;
   std::string locale = asked;
-  if (!IsNullOrEmpty(region)) locale.append("-").append(region);
+  if (kx::IsGiven(region)) locale.append("-").append(region);
   if (CKxXlate* translator = kx::GetPropertiesBundle(name, locale.c_str())) return translator;
   return kx::FindOrLoadLanguage(name, asked, region);
 }

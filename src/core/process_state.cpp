@@ -1,4 +1,6 @@
+#include <cstddef>
 #include <cstdint>
+#include <new>
 
 #include "bundles/install_manager.h"
 #include "bundles/property_key_pool.h"
@@ -10,32 +12,47 @@
 namespace kx {
 namespace {
 
+/// An object that is made like any other and never destroyed: threads of a host may still look
+/// texts up while the process ends, and translators that are never freed point at pooled strings.
+template <class T>
+class NeverDestroyed {
+ public:
+  NeverDestroyed() { new (storage_) T; }
+  NeverDestroyed(const NeverDestroyed&) = delete;
+  NeverDestroyed& operator=(const NeverDestroyed&) = delete;
+
+  T& operator*() noexcept { return *std::launder(reinterpret_cast<T*>(storage_)); }
+
+ private:
+  alignas(T) std::byte storage_[sizeof(T)];
+};
+
 // Every object of the process lives in this file, because only inside one file does the language
-// fix the order in which they are made (top to bottom) and destroyed (bottom to top). Each folder
+// fix the order in which they are made, top to bottom. Each folder
 // declares the accessor of its own object; nobody else may define a non-constant global.
-InternTable g_internTable;
-LanguagePaths g_languagePaths;
+NeverDestroyed<InternTable> g_internTable;
+NeverDestroyed<LanguagePaths> g_languagePaths;
 std::uint32_t g_nextTranslatorId = 1;
-CriticalSection g_cacheLock;
-ResourceLocation g_resources;
-PropertyKeyPool g_keyPool;
-InstalledManagers g_managers;
+NeverDestroyed<CriticalSection> g_cacheLock;
+NeverDestroyed<ResourceLocation> g_resources;
+NeverDestroyed<PropertyKeyPool> g_keyPool;
+NeverDestroyed<InstalledManagers> g_managers;
 // Reads the directory now, while no host thread can look anything up; it must not log, since the
 // log below does not exist yet.
-[[maybe_unused]] const bool kBundlesInstalled = InstallBundlesAtLoad(g_resources, g_managers);
-TranslationLog g_log;
+[[maybe_unused]] const bool kBundlesInstalled = InstallBundlesAtLoad(*g_resources, *g_managers);
+NeverDestroyed<TranslationLog> g_log;
 
 }  // namespace
 
-InternTable& ProcessInternTable() { return g_internTable; }
-LanguagePaths& ProcessLanguagePaths() { return g_languagePaths; }
-CriticalSection& CacheLock() { return g_cacheLock; }
+InternTable& ProcessInternTable() { return *g_internTable; }
+LanguagePaths& ProcessLanguagePaths() { return *g_languagePaths; }
+CriticalSection& CacheLock() { return *g_cacheLock; }
 LanguageContext ProcessLanguageContext() {
-  return {g_languagePaths, g_internTable, g_nextTranslatorId, g_log};
+  return {*g_languagePaths, *g_internTable, g_nextTranslatorId, *g_log};
 }
-ResourceLocation& ProcessResources() { return g_resources; }
-PropertyKeyPool& ProcessKeyPool() { return g_keyPool; }
-InstalledManagers& ProcessManagers() { return g_managers; }
-TranslationLog& ProcessLog() { return g_log; }
+ResourceLocation& ProcessResources() { return *g_resources; }
+PropertyKeyPool& ProcessKeyPool() { return *g_keyPool; }
+InstalledManagers& ProcessManagers() { return *g_managers; }
+TranslationLog& ProcessLog() { return *g_log; }
 
 }  // namespace kx

@@ -7,7 +7,7 @@ namespace {
 
 bool IsAbsent(const char* dst, KxSize size) { return dst == nullptr || size == 0; }
 
-// Text may lie in the buffer itself: a host may well ask for the default it already put there.
+// The text may lie in the buffer: a host may well pass the default that it already put there.
 void CopyTerminated(char* dst, std::string_view text) {
   if (!text.empty()) std::memmove(dst, text.data(), text.size());
   dst[text.size()] = '\0';

@@ -15,6 +15,7 @@ constexpr std::size_t kMaxLooseArguments = 13;
 // the text or an argument.
 void InsertIntoBuffer(char* buffer, KxSize size, const char* format, std::size_t count,
                       const char* const* arguments) {
+  if (buffer == nullptr || size == 0) return;
   std::string result;
   kx::InsertArguments(result, format, count, arguments);
   kx::CopyInsertion(buffer, size, result);

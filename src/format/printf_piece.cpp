@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <bit>
+#include <cerrno>
 #include <cstdio>
 #include <cwchar>
+#include <new>
 
 namespace kx {
 namespace {
@@ -43,9 +45,8 @@ class Reader {
     return flags;
   }
 
-  /// A width or precision; `none` when its digits are missing or "*" stands for them.
+  /// A width or precision; `none` when its digits are missing.
   int TakeNumber(int none) {
-    if (Take("*")) return none;
     if (rest_.empty() || !IsOneOf(rest_.front(), "0123456789")) return none;
     int number = 0;
     while (!rest_.empty() && IsOneOf(rest_.front(), "0123456789")) {
@@ -61,12 +62,14 @@ class Reader {
 template <class Value>
 std::string Print(const std::string& format, Value value) {
   char text[kMaxPieceBytes + 1];
+  errno = 0;
 // The format was put together here, of known parts.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
   const int length = std::snprintf(text, sizeof text, format.c_str(), value);
 #pragma GCC diagnostic pop
-  // Wide characters that the host's locale cannot express.
+  if (length < 0 && errno == ENOMEM) throw std::bad_alloc();
+  // Else wide characters that the host's locale cannot express.
   return length < 0 ? std::string() : std::string(text);
 }
 
@@ -86,7 +89,7 @@ PrintfPiece::PrintfPiece(std::string_view piece) {
 std::string_view PrintfPiece::TakeGroup(std::string_view group) {
   Reader reader(group.substr(1));
   const std::string flags = reader.TakeFlags();
-  const int width = reader.TakeNumber(kNotGiven);
+  const int width = reader.Take("*") ? kNotGiven : reader.TakeNumber(kNotGiven);
   int precision = kNotGiven;
   if (reader.Take(".")) precision = reader.Take("*") ? kNotGiven : reader.TakeNumber(0);
   const Length length =
@@ -124,36 +127,32 @@ ArgumentKind PrintfPiece::KindOfLetter() const {
 std::string PrintfPiece::FormatOf(std::string_view length) const {
   std::string format = '%' + flags_;
   if (width_ != kNotGiven) format += std::to_string(width_);
-  if (precision_ != kNotGiven) format.append(".").append(std::to_string(precision_));
+  // Without one, printf walks the whole of a text to count it, and refuses one of 2 GB.
+  const bool isText = letter_ == 's' && length_ != Length::kLong;
+  const int precision = precision_ == kNotGiven && isText ? kMaxFieldBytes : precision_;
+  if (precision != kNotGiven) format.append(".").append(std::to_string(precision));
   return format.append(length) + letter_;
 }
 
-std::string PrintfPiece::FormatSigned(std::uint64_t word) const {
-  const auto value = [&]() -> long long {
-    switch (length_) {
-      case Length::kChar: return static_cast<signed char>(word);
-      case Length::kShort: return static_cast<short>(word);
-      case Length::kNone: return static_cast<int>(word);
-      case Length::kLong: return static_cast<long>(word);
-      case Length::kLongLong: break;
-    }
-    return static_cast<long long>(word);
-  }();
-  return Print(FormatOf("ll"), value);
+/// How many bits of the argument an integer conversion looks at.
+int PrintfPiece::Bits() const {
+  switch (length_) {
+    case Length::kChar: return 8;
+    case Length::kShort: return 16;
+    case Length::kNone: return 32;
+    case Length::kLong: return 8 * static_cast<int>(sizeof(long));
+    case Length::kLongLong: break;
+  }
+  return 64;
 }
 
-std::string PrintfPiece::FormatUnsigned(std::uint64_t word) const {
-  const auto value = [&]() -> unsigned long long {
-    switch (length_) {
-      case Length::kChar: return static_cast<unsigned char>(word);
-      case Length::kShort: return static_cast<unsigned short>(word);
-      case Length::kNone: return static_cast<unsigned>(word);
-      case Length::kLong: return static_cast<unsigned long>(word);
-      case Length::kLongLong: break;
-    }
-    return word;
-  }();
-  return Print(FormatOf("ll"), value);
+std::string PrintfPiece::FormatInteger(std::uint64_t word) const {
+  const int unused = 64 - Bits();
+  const std::uint64_t top = word << unused;
+  if (letter_ == 'd' || letter_ == 'i') {
+    return Print(FormatOf("ll"), static_cast<long long>(top) >> unused);
+  }
+  return Print(FormatOf("ll"), static_cast<unsigned long long>(top >> unused));
 }
 
 std::string PrintfPiece::FormatText(std::uint64_t word) const {
@@ -166,11 +165,11 @@ std::string PrintfPiece::FormatValue(std::uint64_t word) const {
   switch (letter_) {
     case '\0': return {};
     case 'd':
-    case 'i': return FormatSigned(word);
+    case 'i':
     case 'o':
     case 'u':
     case 'x':
-    case 'X': return FormatUnsigned(word);
+    case 'X': return FormatInteger(word);
     case 's': return FormatText(word);
     case 'p': return Print(FormatOf(""), std::bit_cast<const void*>(word));
     case 'c':

@@ -20,6 +20,7 @@ constexpr std::size_t kMaxPieceBytes = 16383;
 ///   *              as width or precision takes no argument and counts as not given
 ///   width, precision  above 16,383 act as 16,383
 ///   %%             is a percent sign
+///   e g a, and E F G A X, are conversions like the letters that end a piece
 ///   anything else behind a "%", and every "%" behind the first conversion, is literal text
 class PrintfPiece {
  public:
@@ -40,8 +41,8 @@ class PrintfPiece {
   ArgumentKind KindOfLetter() const;
   /// The conversion in printf's own spelling, with another length.
   std::string FormatOf(std::string_view length) const;
-  std::string FormatSigned(std::uint64_t word) const;
-  std::string FormatUnsigned(std::uint64_t word) const;
+  int Bits() const;
+  std::string FormatInteger(std::uint64_t word) const;
   std::string FormatText(std::uint64_t word) const;
   std::string FormatValue(std::uint64_t word) const;
 

@@ -11,13 +11,15 @@ using Open = LangFileParser::Open;
 
 struct Clause {
   std::string_view keyword;
-  Open opens;  ///< what a line with this keyword leaves open
+  Open opens;       ///< what a line with this keyword leaves open
+  bool mayEndLine;  ///< names must follow their keyword; values may be empty
 };
 
-// Names must be followed by a blank; values may also be empty and end the line.
-constexpr Clause kNameClauses[] = {{"Key", Open::kKey}, {"Button", Open::kButton}};
-constexpr Clause kValueClauses[] = {
-    {"Val", Open::kValue}, {"Value", Open::kValue}, {"Label", Open::kLabel}};
+constexpr Clause kClauses[] = {{"Key", Open::kKey, false},
+                               {"Button", Open::kButton, false},
+                               {"Val", Open::kValue, true},
+                               {"Value", Open::kValue, true},
+                               {"Label", Open::kLabel, true}};
 
 void OpenPair(LangFileParser& parser, LanguageContents& contents, const Clause& clause,
               const char* name) {
@@ -54,15 +56,13 @@ void Continue(LangFileParser& parser, const char* text) {
 void ParseBodyClause(LangFileParser& parser, LanguageContents& contents) {
   const std::string_view line = parser.cursor;
   if (line.front() == '&') return Continue(parser, parser.cursor + 1);
-  for (const Clause& clause : kNameClauses) {
+  for (const Clause& clause : kClauses) {
     if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
     const char* behind = parser.cursor + clause.keyword.size();
-    if (*behind == ' ') return OpenPair(parser, contents, clause, SkipWhiteSpace(behind));
-  }
-  for (const Clause& clause : kValueClauses) {
-    if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
-    const char* behind = parser.cursor + clause.keyword.size();
-    if (*behind == ' ' || *behind == '\0') return TakeValue(parser, clause, SkipWhiteSpace(behind));
+    if (*behind != ' ' && !(clause.mayEndLine && *behind == '\0')) continue;
+    const char* text = SkipWhiteSpace(behind);
+    return clause.mayEndLine ? TakeValue(parser, clause, text)
+                             : OpenPair(parser, contents, clause, text);
   }
   parser.Report(LangProblem::kUnrecognizedText);
 }

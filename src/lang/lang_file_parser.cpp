@@ -22,7 +22,6 @@ void StripEnd(char* line) {
 
 /// Reads the next line; false when it is too long.
 bool ReadLine(LangFileParser& parser, std::istream& stream) {
-  std::memset(parser.line, 0, sizeof parser.line);
   stream.getline(parser.line, sizeof parser.line);
   ++parser.lineNumber;
   StripEnd(parser.line);

@@ -22,6 +22,12 @@ class LogSink final : public ProblemSink {
   const std::string& root_;
 };
 
+/// Whether the path has become that of another machine, though the directory is not there: when no
+/// directory was found it is "/", and a language may be empty or begin with a separator.
+bool LeavesTheMachine(const std::string& directory, const std::string& path) {
+  return directory == "/" && KxIsNetworkPath(path.c_str());
+}
+
 }  // namespace
 
 std::string LangFileName(const std::string& language, const std::string& country,
@@ -51,13 +57,16 @@ bool LoadLangFile(const LanguageContext& context, const std::string& relative,
                   LanguageContents& contents, LangCandidate& candidate) {
   candidate.path = context.paths.directory + relative;
   // Language, region and name may come from a stranger's request.
-  if (!StaysInDirectory(relative)) return false;
+  if (!StaysInDirectory(relative) || LeavesTheMachine(context.paths.directory, candidate.path))
+    return false;
+  // Asked before the file is opened: of a file that is replaced meanwhile the old time is then kept
+  // with the new text, and the next request reads it again.
+  KxFileStatus status;
+  const bool known = KxStat(candidate.path.c_str(), &status) == 0;
   CKxIfstream stream;
   KxIfstreamOpen(stream, candidate.path.c_str());
   if (stream.fail()) return false;
-  // Asked before the file is read: a change while it is read is then noticed later.
-  KxFileStatus status;
-  KxStat(candidate.path.c_str(), &status);
+  if (!known) KxStat(candidate.path.c_str(), &status);
   candidate.modified = status.modified;
   LogSink problems(context.log, context.paths.root);
   LangFileParser parser(relative, problems, context.strings);

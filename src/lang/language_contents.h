@@ -33,8 +33,8 @@ struct LanguageContents {
   std::string charset;
   std::string direction;
   const char* promptSuffix = nullptr;
-  bool debug =
-      false;  ///< kept for hosts that look at the object in a debugger; nothing asks for it
+  /// Kept for people who look at the object in a debugger; nothing asks for it.
+  bool debug = false;
   LanguageTable texts;
   LanguageTable labels;
   LanguageTable directories;

@@ -6,6 +6,7 @@
 #include "lang/lang_problems.h"
 #include "log/translation_log.h"
 #include "platform/file_status.h"
+#include "platform/given_text.h"
 #include "platform/utf8_text.h"
 
 namespace {
@@ -13,11 +14,9 @@ namespace {
 constexpr char kEnglish[] = "EN";
 constexpr char kDefaultCharset[] = "ISO-8859-1";
 
-bool IsGiven(const char* text) { return text != nullptr && *text != '\0'; }
-
 std::string DisplayName(const std::string& languageCode, const char* country, const char* name) {
   std::string displayName = languageCode;
-  if (IsGiven(country)) displayName.append("-").append(country);
+  if (kx::IsGiven(country)) displayName.append("-").append(country);
   return displayName.append(" (").append(name).append(")");
 }
 
@@ -47,7 +46,7 @@ void CRealKxXlate::LoadFiles(const kx::LanguageContext& context, const char* cou
   // Each later file overrides the ones before it, so the most specific comes last.
   load("");
   load(name_);
-  if (!IsGiven(country)) return;
+  if (!kx::IsGiven(country)) return;
   countryCode_ = CKxUTF8ToUpper(country).Text();
   load("");
   load(name_);
@@ -78,23 +77,21 @@ const char* CRealKxXlate::GetDirection() { return contents_.direction.c_str(); }
 const char* CRealKxXlate::GetPromptSuffix() { return contents_.promptSuffix; }
 
 const char* CRealKxXlate::GetDirectory(const char* name) {
-  return FindKey(contents_.directories, missingDirectories_, name);
+  return FindKey(contents_.directories, kDirectories, name);
 }
 
 bool CRealKxXlate::GetDirectory(char* dst, KxSize size, const char* name) {
   return kx::AnswerLookup(dst, size, GetDirectory(name), nullptr);
 }
 
-const char* CRealKxXlate::GetText(const char* key) {
-  return FindKey(contents_.texts, missingTexts_, key);
-}
+const char* CRealKxXlate::GetText(const char* key) { return FindKey(contents_.texts, kTexts, key); }
 
 bool CRealKxXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
   return kx::AnswerLookup(dst, size, GetText(key), dflt);
 }
 
 const char* CRealKxXlate::GetLabel(const char* key) {
-  return FindKey(contents_.labels, missingLabels_, key);
+  return FindKey(contents_.labels, kLabels, key);
 }
 
 bool CRealKxXlate::GetLabel(char* dst, KxSize size, const char* key) {
@@ -125,18 +122,23 @@ bool CRealKxXlate::IsStale() const {
   return false;
 }
 
-const char* CRealKxXlate::FindKey(const kx::LanguageTable& table, MissingKeys& missing,
-                                  const char* key) {
-  if (!IsGiven(key)) return nullptr;
-  const char* value = table.Find(key);
+const char* CRealKxXlate::FindKey(const kx::LanguageTable& contents, Table table, const char* key) {
+  if (!kx::IsGiven(key)) return nullptr;
+  const char* value = contents.Find(key);
   // A language without files lacks every key: not worth a line.
-  if (value == nullptr && anyFileFound_) NoteMissingKey(missing, key);
+  if (value == nullptr && anyFileFound_) NoteMissingKey(table, key);
   return value;
 }
 
-void CRealKxXlate::NoteMissingKey(MissingKeys& missing, std::string_view key) {
+void CRealKxXlate::NoteMissingKey(Table table, std::string_view key) {
   const kx::CriticalSectionGuard guard(lock_);
+  MissingKeys& missing = missing_[table];
   if (missing.find(key) != missing.end()) return;
-  missing.emplace(key);
-  log_.WriteLine(logRoot_, {displayName_, kx::kKeyNotFound, key});
+  const auto noted = missing.emplace(key).first;
+  try {
+    log_.WriteLine(logRoot_, {displayName_, kx::kKeyNotFound, key});
+  } catch (...) {
+    missing.erase(noted);  // or the key would never be logged
+    throw;
+  }
 }

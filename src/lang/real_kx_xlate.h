@@ -1,7 +1,6 @@
 #ifndef KX_LANG_REAL_KX_XLATE_H
 #define KX_LANG_REAL_KX_XLATE_H
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -74,8 +73,11 @@ class CRealKxXlate final : public CKxXlate {
   ~CRealKxXlate() override = default;
 
   void LoadFiles(const kx::LanguageContext& context, const char* country);
-  const char* FindKey(const kx::LanguageTable& table, MissingKeys& missing, const char* key);
-  void NoteMissingKey(MissingKeys& missing, std::string_view key) KX_EXCLUDES(lock_);
+  /// Which table a key was asked for in vain.
+  enum Table { kTexts, kLabels, kDirectories, kTables };
+
+  const char* FindKey(const kx::LanguageTable& contents, Table table, const char* key);
+  void NoteMissingKey(Table table, std::string_view key) KX_EXCLUDES(lock_);
 
   // Constant after construction.
   std::string name_;
@@ -89,9 +91,7 @@ class CRealKxXlate final : public CKxXlate {
 
   // Guarded: apart for each table, so that a key is logged once for each that lacks it.
   kx::CriticalSection lock_;
-  MissingKeys missingTexts_;
-  MissingKeys missingLabels_;
-  MissingKeys missingDirectories_;
+  MissingKeys missing_[kTables] KX_GUARDED_BY(lock_);
   kx::ReferenceCount references_{0};
 
   // Owned by the process.

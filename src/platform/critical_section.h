@@ -1,8 +1,7 @@
 #ifndef KX_PLATFORM_CRITICAL_SECTION_H
 #define KX_PLATFORM_CRITICAL_SECTION_H
 
-#include <mutex>
-
+#include "platform/native_mutex.h"
 #include "platform/thread_annotations.h"
 
 namespace kx {
@@ -19,7 +18,7 @@ class KX_CAPABILITY("mutex") CriticalSection {
   void Leave() KX_RELEASE() { mutex_.unlock(); }
 
  private:
-  std::mutex mutex_;
+  NativeMutex mutex_;
 };
 
 /// Holds a lock for as long as it lives, also when an exception ends the scope.

@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstring>
 #include <memory>
 
@@ -31,11 +32,13 @@ namespace kx {
 bool ListDirectory(const char* directory, std::vector<DirectoryEntry>& entries) {
   const std::unique_ptr<DIR, CloseDirectory> open(::opendir(directory));
   if (open == nullptr) return false;
-  while (const dirent* entry = ::readdir(open.get())) {
+  for (;;) {
+    errno = 0;  // the end of the directory and an error answer alike
+    const dirent* entry = ::readdir(open.get());
+    if (entry == nullptr) return errno == 0;
     if (IsDotName(entry->d_name)) continue;
     entries.push_back({entry->d_name, IsDirectory(open.get(), *entry)});
   }
-  return true;
 }
 
 }  // namespace kx

@@ -22,8 +22,8 @@ FileHandle OpenForAppending(const char* path);
 /// Reads up to `size` bytes. 0 at the end of the file and when reading fails.
 std::size_t ReadFileBlock(FileHandle file, char* block, std::size_t size);
 
-/// Writes all `size` bytes; false when that is not possible.
-bool WriteFileBlock(FileHandle file, const char* block, std::size_t size);
+/// Writes `size` bytes, or as many as is possible; answers how many.
+std::size_t WriteFileBlock(FileHandle file, const char* block, std::size_t size);
 
 void CloseFile(FileHandle file);
 

@@ -22,6 +22,9 @@ mode_t KindOf(int descriptor) {
 }  // namespace
 
 FileHandle OpenRegularFile(const char* path) {
+  // Opening alone has effects on what is no file: it lets a pipe's writer go on, it winds a tape.
+  struct stat found;
+  if (::stat(path, &found) != 0 || !S_ISREG(found.st_mode)) return kNoFile;
   const int descriptor = ::open(path, O_RDONLY | kNeverWait);
   if (descriptor < 0) return kNoFile;
   // Asked of the open file, not of the path, which may name another file by now.
@@ -46,15 +49,15 @@ std::size_t ReadFileBlock(FileHandle file, char* block, std::size_t size) {
   return count < 0 ? 0 : static_cast<std::size_t>(count);
 }
 
-bool WriteFileBlock(FileHandle file, const char* block, std::size_t size) {
-  while (size > 0) {
-    const ssize_t count = ::write(Descriptor(file), block, size);
+std::size_t WriteFileBlock(FileHandle file, const char* block, std::size_t size) {
+  std::size_t written = 0;
+  while (written < size) {
+    const ssize_t count = ::write(Descriptor(file), block + written, size - written);
     if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return false;
-    block += count;
-    size -= static_cast<std::size_t>(count);
+    if (count <= 0) break;
+    written += static_cast<std::size_t>(count);
   }
-  return true;
+  return written;
 }
 
 void CloseFile(FileHandle file) { ::close(Descriptor(file)); }

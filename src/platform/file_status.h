@@ -25,4 +25,8 @@ int KxStat(const char* path, KxFileStatus* status);
 /// Whether `path` names a directory that can be looked at.
 bool KxIsDirectory(const char* path);
 
+/// Whether the system takes `path` for a place on another machine or a device: on Windows one that
+/// begins with two separators; nowhere else any.
+bool KxIsNetworkPath(const char* path);
+
 #endif  // KX_PLATFORM_FILE_STATUS_H

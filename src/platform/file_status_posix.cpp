@@ -10,3 +10,5 @@ int KxStat(const char* path, KxFileStatus* status) {
   status->mode = S_ISDIR(found.st_mode) ? kKxModeDirectory : 0;
   return 0;
 }
+
+bool KxIsNetworkPath(const char* /*path*/) { return false; }

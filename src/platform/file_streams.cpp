@@ -36,9 +36,16 @@ bool FileOutputBuffer::Open(const char* path) {
 }
 
 std::streamsize FileOutputBuffer::xsputn(const char* text, std::streamsize size) {
-  const bool written =
-      file_ != kNoFile && WriteFileBlock(file_, text, static_cast<std::size_t>(size));
-  return written ? size : 0;
+  if (file_ == kNoFile) return 0;
+  if (isCut_ && Write("\n", 1) == 0) return 0;
+  return static_cast<std::streamsize>(Write(text, static_cast<std::size_t>(size)));
+}
+
+std::size_t FileOutputBuffer::Write(const char* text, std::size_t size) {
+  const std::size_t written = WriteFileBlock(file_, text, size);
+  // What was lost whole leaves the end of the file as it was.
+  if (written > 0) isCut_ = written < size;
+  return written;
 }
 
 FileOutputBuffer::int_type FileOutputBuffer::overflow(int_type c) {

@@ -1,6 +1,7 @@
 #ifndef KX_PLATFORM_FILE_STREAMS_H
 #define KX_PLATFORM_FILE_STREAMS_H
 
+#include <cstddef>
 #include <istream>
 #include <ostream>
 #include <streambuf>
@@ -31,7 +32,8 @@ class FileInputBuffer final : public std::streambuf {
   std::vector<char> block_;
 };
 
-/// Hands each write to the system at once, so that a line written whole lands whole in the file.
+/// Hands each write to the system at once, so that a line written whole lands whole in the file. A
+/// line that was cut, as by a full disk, is ended before the next one begins.
 class FileOutputBuffer final : public std::streambuf {
  public:
   FileOutputBuffer() = default;
@@ -46,7 +48,10 @@ class FileOutputBuffer final : public std::streambuf {
   int_type overflow(int_type c) override;
 
  private:
+  std::size_t Write(const char* text, std::size_t size);
+
   FileHandle file_ = kNoFile;
+  bool isCut_ = false;
 };
 
 }  // namespace kx

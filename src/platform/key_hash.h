@@ -11,29 +11,15 @@ namespace kx {
 
 constexpr std::uint64_t kHashFactor = 65599;
 
-/// The polynomial of the bytes of `text`, each passed through `fold`, at kHashFactor.
-template <class Fold>
-constexpr std::uint64_t PolynomialHash(std::string_view text, Fold fold) noexcept {
-  constexpr std::uint64_t kFactor2 = kHashFactor * kHashFactor;
-  constexpr std::uint64_t kFactor3 = kFactor2 * kHashFactor;
-  constexpr std::uint64_t kFactor4 = kFactor3 * kHashFactor;
-  std::uint64_t hash = 0;
-  // Four bytes a step, since their products do not wait for each other as those of single bytes do.
-  for (; text.size() >= 4; text.remove_prefix(4)) {
-    hash = hash * kFactor4 + fold(text[0]) * kFactor3 + fold(text[1]) * kFactor2 +
-           fold(text[2]) * kHashFactor + fold(text[3]);
-  }
-  for (const char c : text) hash = hash * kHashFactor + fold(c);
-  return hash;
-}
+/// A hash in which ASCII case does not count, of another kind in each process: whoever writes
+/// catalogues, or sends locales, cannot make keys that collide.
+std::size_t SeededHash(std::string_view key) noexcept;
 
-/// Hash of keys and locales: ASCII case does not count.
+/// Hash of keys and locales.
 struct KeyHash {
   using is_transparent = void;
 
-  constexpr std::size_t operator()(std::string_view key) const noexcept {
-    return PolynomialHash(key, FoldAscii);
-  }
+  std::size_t operator()(std::string_view key) const noexcept { return SeededHash(key); }
 };
 
 /// Equality that goes with KeyHash.
@@ -45,10 +31,12 @@ struct KeyEqual {
   }
 };
 
-/// Hash of bundle names, whose case counts.
+/// Hash of bundle names, whose case counts and which only installed files make.
 struct NameHash {
   constexpr std::size_t operator()(std::string_view name) const noexcept {
-    return PolynomialHash(name, [](char c) { return static_cast<unsigned char>(c); });
+    std::uint64_t hash = 0;
+    for (const char c : name) hash = hash * kHashFactor + static_cast<unsigned char>(c);
+    return hash;
   }
 };
 

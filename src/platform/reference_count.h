@@ -12,7 +12,7 @@ namespace kx {
 /// lock that would have to be left first.
 class ReferenceCount {
  public:
-  explicit ReferenceCount(std::int32_t start) noexcept : count_(start) {}
+  explicit ReferenceCount(std::int64_t start) noexcept : count_(start) {}
 
   void Add() noexcept { count_.fetch_add(1, std::memory_order_relaxed); }
 
@@ -23,7 +23,8 @@ class ReferenceCount {
   }
 
  private:
-  std::atomic<std::int32_t> count_;
+  // Wide, since a host may take a reference with every message for years and give none back.
+  std::atomic<std::int64_t> count_;
 };
 
 }  // namespace kx

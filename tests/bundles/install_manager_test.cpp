@@ -29,7 +29,7 @@ class InstalledManagers : public testing::Test {
   }
 
   bool Install(kx::InstalledManagers& managers, const std::string& directory) {
-    return managers.InstallXlateManager(tree_.Path(directory).c_str());
+    return managers.InstallXlateManager(tree_.Path(directory).c_str(), resources_);
   }
 
   static std::string Text(const XlateManager* manager) {
@@ -41,6 +41,7 @@ class InstalledManagers : public testing::Test {
   }
 
   TempTree tree_;
+  kx::ResourceLocation resources_;
 };
 
 TEST_F(InstalledManagers, AreNoneAtFirst) {
@@ -136,7 +137,8 @@ TEST_F(InstalledManagers, FileOrEmptyNameInPlaceOfADirectoryHasNoBundles) {
 
   EXPECT_TRUE(Install(managers, "first/msg_en.properties"));
   EXPECT_EQ("(nothing)", Text(managers.Current()));
-  EXPECT_TRUE(managers.InstallXlateManager(""));
+  kx::ResourceLocation resources;
+  EXPECT_TRUE(managers.InstallXlateManager("", resources));
   EXPECT_EQ("(nothing)", Text(managers.Current()));
 }
 

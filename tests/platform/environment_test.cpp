@@ -1,16 +1,14 @@
 #include "platform/environment.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <string>
+
+#include "support/set_environment.h"
 
 namespace {
 
 const char* const kName = "KXXLATE_VARIABLE_OF_A_TEST";
-
-void SetVariable(const char* name, const char* value) { ASSERT_EQ(0, ::setenv(name, value, 1)); }
-void RemoveVariable(const char* name) { ASSERT_EQ(0, ::unsetenv(name)); }
 
 TEST(Environment, AnswersTheValueOfAVariable) {
   SetVariable(kName, "C:\\a tree\\");
@@ -33,8 +31,8 @@ TEST(Environment, ValuesAreUtf8) {
 }
 
 TEST(Environment, ALongValueIsAnsweredWhole) {
-  const std::string value(40000, 'v');
-  SetVariable(kName, value.c_str());
+  const std::string value(30000, 'v');
+  SetVariable(kName, value);
   EXPECT_EQ(value, CKxGetEnv().set(kName));
 }
 

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <ostream>
 #include <string>
-#include <string_view>
 #include <unordered_set>
 #include <vector>
 
@@ -13,68 +12,74 @@ namespace {
 
 struct HashCase {
   const char* name;
-  const char* key;
-  std::uint64_t folded;
-  std::uint64_t exact;
+  const char* text;
+  std::uint64_t hash;
 };
 
-void PrintTo(const HashCase& c, std::ostream* os) { *os << '"' << c.key << '"'; }
+void PrintTo(const HashCase& c, std::ostream* os) { *os << '"' << c.text << '"'; }
 
-class KeyHashValue : public testing::TestWithParam<HashCase> {};
+class NameHashValue : public testing::TestWithParam<HashCase> {};
 
-TEST_P(KeyHashValue, IsTheSameOnEveryMachine) {
-  EXPECT_EQ(GetParam().folded, kx::KeyHash()(GetParam().key));
-  EXPECT_EQ(GetParam().exact, kx::NameHash()(GetParam().key));
+TEST_P(NameHashValue, IsTheSameOnEveryMachine) {
+  EXPECT_EQ(GetParam().hash, kx::NameHash()(GetParam().text));
 }
 
 // Worked out elsewhere, so that a slip in the code cannot hide in the test.
 const HashCase kValues[] = {
-    {"Empty", "", 0, 0},
-    {"Small", "a", 0x61, 0x61},
-    {"Capital", "A", 0x61, 0x41},
-    {"TwoLetters", "ab", 0x611841, 0x611841},
-    {"Word", "Title", 0x72c37baf15f1cc38, 0x5337d9069865ec18},
-    {"Locale", "fr_CA", 0x64ff6b16f761a911, 0x64ff6b16f741a111},
-    {"LongerThanTheArithmetic", "LOGIN_PROMPT_OF_THE_AGENT", 0x1e1e040f96d1ac74,
-     0x2a3459f4a924b414},
-    {"HighestByteIsUnsigned", "\xFF", 0xFF, 0xFF},
-    {"BytesAbove127AreUnsignedAndNotFolded", "\xC3\x89t\xC3\xA9", 0xc0c44ce4dd144b14,
-     0xc0c44ce4dd144b14},
-    {"NeighboursOfTheCapitalsStay", "@[", 0x40 * 65599 + 0x5B, 0x40 * 65599 + 0x5B},
-    {"NeighboursOfTheSmallLettersStay", "`{", 0x60 * 65599 + 0x7B, 0x60 * 65599 + 0x7B},
+    {"Empty", "", 0},
+    {"Small", "a", 0x61},
+    {"Capital", "A", 0x41},
+    {"TwoLetters", "ab", 0x611841},
+    {"Word", "Title", 0x5337d9069865ec18},
+    {"LongerThanTheArithmetic", "LOGIN_PROMPT_OF_THE_AGENT", 0x2a3459f4a924b414},
+    {"HighestByteIsUnsigned", "\xFF", 0xFF},
 };
 
-INSTANTIATE_TEST_SUITE_P(Values, KeyHashValue, testing::ValuesIn(kValues),
+INSTANTIATE_TEST_SUITE_P(Values, NameHashValue, testing::ValuesIn(kValues),
                          [](const auto& row) { return std::string(row.param.name); });
 
-// The sum of byte times factor to the power of its place from the end, each power made anew.
-std::uint64_t SlowHash(const std::string& key, bool folds) {
-  std::uint64_t sum = 0;
-  for (std::size_t i = 0; i < key.size(); ++i) {
-    std::uint64_t term = static_cast<unsigned char>(key[i]);
-    if (folds && term >= 65 && term <= 90) term += 32;
-    for (std::size_t power = i + 1; power < key.size(); ++power) term *= 65599;
-    sum += term;
-  }
-  return sum;
+/// The byte of `length` that differs from all others stands at `place`.
+std::string KeyWith(std::size_t length, std::size_t place, unsigned byte) {
+  std::string key(length, '-');
+  key[place] = static_cast<char>(byte);
+  return key;
 }
 
-TEST(KeyHash, AgreesWithTheSumOfPowers) {
-  std::string key;
-  for (unsigned i = 0; i < 600; ++i) {
-    EXPECT_EQ(SlowHash(key, true), kx::KeyHash()(key)) << "length " << key.size();
-    EXPECT_EQ(SlowHash(key, false), kx::NameHash()(key)) << "length " << key.size();
-    key += static_cast<char>(i * 37 % 256);
+TEST(KeyHash, FoldsEveryCapitalInEveryPlaceAndNothingElse) {
+  for (const std::size_t length : {1U, 7U, 8U, 9U, 17U}) {
+    for (std::size_t place = 0; place < length; ++place) {
+      std::unordered_set<std::size_t> hashes;
+      for (unsigned byte = 0; byte < 256; ++byte) {
+        const bool isCapital = byte >= 'A' && byte <= 'Z';
+        const std::size_t hash = kx::KeyHash()(KeyWith(length, place, byte));
+        EXPECT_EQ(isCapital, hash == kx::KeyHash()(KeyWith(length, place, byte + 32))) << byte;
+        hashes.insert(hash);
+      }
+      EXPECT_EQ(256U - 26U, hashes.size()) << place << " of " << length;
+    }
   }
 }
 
-TEST(KeyHash, EveryByteHashesToItsFoldedValue) {
-  for (unsigned byte = 0; byte < 256; ++byte) {
-    const char c = static_cast<char>(byte);
-    const unsigned folded = byte >= 'A' && byte <= 'Z' ? byte + 32 : byte;
-    EXPECT_EQ(folded, kx::KeyHash()(std::string_view(&c, 1))) << byte;
-    EXPECT_EQ(byte, kx::NameHash()(std::string_view(&c, 1))) << byte;
+TEST(KeyHash, TellsLengthsApart) {
+  std::unordered_set<std::size_t> hashes;
+  for (std::size_t length = 0; length < 100; ++length) {
+    hashes.insert(kx::KeyHash()(std::string(length, '\0')));
   }
+  EXPECT_EQ(100U, hashes.size());
+}
+
+// These two have one value under the polynomial of bundle names, and so have all rows of them: a
+// catalogue made of such rows once took minutes to load.
+TEST(KeyHash, CannotBeMadeToCollideByRowsOfCollidingWords) {
+  const std::string words[] = {"baffaaeaajcaaafc", "acaagbacbaabccaa"};
+  ASSERT_EQ(kx::NameHash()(words[0]), kx::NameHash()(words[1]));
+  std::unordered_set<std::size_t> hashes;
+  for (unsigned row = 0; row < 4096; ++row) {
+    std::string key;
+    for (unsigned bit = 0; bit < 12; ++bit) key += words[row >> bit & 1];
+    hashes.insert(kx::KeyHash()(key));
+  }
+  EXPECT_EQ(4096U, hashes.size());
 }
 
 TEST(KeyHash, EqualKeysHashAlike) {

@@ -28,7 +28,7 @@ void InThreads(const std::string& count, Work work) {
 }  // namespace
 
 void LookUpInThreads(const Arguments& a) {
-  std::vector<CKxXlate*> got(64);
+  std::vector<CKxXlate*> got(std::stoul(a[0]));
   InThreads(a[0], [&](int thread) {
     CKxXlate* translator = CKxXlate::GetBundle(Pointer(a[1]), Pointer(a[2]));
     if (translator->GetText(a[3].c_str()) == nullptr) std::abort();

@@ -31,19 +31,26 @@ class LogLocation : public testing::Test {
     return tree_.Path(directory) + "/agent_fr.properties key not found: ABSENT\n";
   }
 
+  /// The same for the bundle in the "resources" above the executable: their path begins as the
+  /// system tells the executable's.
+  std::string LineAbove(const std::string& directory, const std::string& key = "ABSENT") const {
+    return tree_.SystemPath(directory) + "/resources/agent_fr.properties key not found: " + key +
+           "\n";
+  }
+
   HostTree tree_;
 };
 
 TEST_F(LogLocation, IsBesideTheResourcesFoundAboveTheExecutable) {
   Provide("product/a/b/resources");
   MissAKey();
-  EXPECT_EQ(Line("product/a/b/resources"), tree_.Read("product/a/b/log/translate.log"));
+  EXPECT_EQ(LineAbove("product/a/b"), tree_.Read("product/a/b/log/translate.log"));
 }
 
 TEST_F(LogLocation, IsBesideTheResourcesFoundInTheExecutablesDirectory) {
   Provide("product/a/b/c/d/resources");
   MissAKey();
-  EXPECT_EQ(Line("product/a/b/c/d/resources"), tree_.Read("product/a/b/c/d/log/translate.log"));
+  EXPECT_EQ(LineAbove("product/a/b/c/d"), tree_.Read("product/a/b/c/d/log/translate.log"));
 }
 
 TEST_F(LogLocation, IsBesideTheResourcesFoundByAVariable) {
@@ -104,7 +111,7 @@ TEST_F(LogLocation, IsNotMovedByAReplacementBetweenTwoLines) {
   RunHost({"text", "agent", "fr", "ABSENT", "use", tree_.Path("elsewhere"),  //
            "text", "agent", "fr", "ABSENT"},
           "(null)\ntrue\n(null)\n");
-  EXPECT_EQ(Line("product/a/b/resources") + Line("elsewhere"),
+  EXPECT_EQ(LineAbove("product/a/b") + Line("elsewhere"),
             tree_.Read("product/a/b/log/translate.log"));
   EXPECT_FALSE(tree_.Exists("elsewhere/log"));
 }
@@ -122,7 +129,7 @@ TEST_F(LogLocation, IsStandardOutputWhenNoFileCanBeOpened) {
   tree_.Write("product/a/b/log", "x");
   tree_.MakeDirectory("product/a/b/translate.log");
   RunHost({"text", "agent", "fr", "ABSENT", "text", "agent", "fr", "Present"},
-          Line("product/a/b/resources") + "(null)\nyes\n");
+          LineAbove("product/a/b") + "(null)\nyes\n");
 }
 
 TEST_F(LogLocation, IsNotMadeWithoutAProblem) {
@@ -136,27 +143,23 @@ TEST_F(LogLocation, TheNextProcessContinuesTheLog) {
   Provide("product/a/b/resources");
   MissAKey();
   MissAKey();
-  EXPECT_EQ(Line("product/a/b/resources") + Line("product/a/b/resources"),
+  EXPECT_EQ(LineAbove("product/a/b") + LineAbove("product/a/b"),
             tree_.Read("product/a/b/log/translate.log"));
 }
 
 TEST_F(LogLocation, ALineFeedInAKeyDoesNotMakeASecondLine) {
   Provide("product/a/b/resources");
   RunHost({"text", "agent", "fr", "ABS\r\nENT"}, "(null)\n");
-  EXPECT_EQ(
-      tree_.Path("product/a/b/resources/agent_fr.properties") + " key not found: ABS\\r\\nENT\n",
-      tree_.Read("product/a/b/log/translate.log"));
+  EXPECT_EQ(LineAbove("product/a/b", "ABS\\r\\nENT"), tree_.Read("product/a/b/log/translate.log"));
 }
 
 TEST_F(LogLocation, ThreadsOfAHostWriteEachLineWhole) {
   Provide("product/a/b/resources");
   RunHost({"misses", "8", "agent", "fr"}, "");
   const std::string log = tree_.Read("product/a/b/log/translate.log");
-  const std::string start =
-      tree_.Path("product/a/b/resources/agent_fr.properties") + " key not found: ABSENT";
   std::size_t lines = 0;
   for (int key = 0; key < 50; ++key) {
-    const std::string line = start + std::to_string(key) + "\n";
+    const std::string line = LineAbove("product/a/b", "ABSENT" + std::to_string(key));
     EXPECT_NE(std::string::npos, log.find(line)) << line;
     lines += line.size();
   }

@@ -39,9 +39,14 @@ class PropertyLookup : public testing::Test {
 
   std::string Log() const { return tree_.Read(kLog); }
 
+  /// The library's path of a bundle file; it begins as the system tells the executable's.
+  std::string BundlePath(const std::string& name) const {
+    return tree_.SystemPath("product") + "/resources/" + name;
+  }
+
   /// The log's line for a key that the file lacks.
   std::string Line(const std::string& name, const std::string& key) const {
-    return tree_.Path("product/resources/" + name) + " key not found: " + key + "\n";
+    return BundlePath(name) + " key not found: " + key + "\n";
   }
 
   HostTree tree_;
@@ -190,17 +195,17 @@ INSTANTIATE_TEST_SUITE_P(Keys, AbsentKey, testing::ValuesIn(kKeys),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(PropertyLookup, FileThatCannotBeOpenedIsReportedOnceAndItsKeysAreLogged) {
-  std::filesystem::create_symlink(
-      "gone", PathFromUtf8(tree_.Path("product/resources/agent_de.properties")));
+  Write("agent_de.properties", "Hello=Hallo\n");
 
-  const HostRun run = tree_.RunHostIn("product/bin", {"text", "agent", "de", "Hello",     //
+  const std::string file = tree_.Path("product/resources/agent_de.properties");
+  const HostRun run = tree_.RunHostIn("product/bin", {"remove", file,                     //
+                                                      "text", "agent", "de", "Hello",     //
                                                       "text", "agent", "de-AT", "Hello",  //
                                                       "text", "agent", "de", "Other"});
 
   EXPECT_EQ(0, run.exitCode);
   EXPECT_EQ("(null)\n(null)\n(null)\n", run.output);
-  EXPECT_EQ("cannot open file: " + tree_.Path("product/resources/agent_de.properties") + "\n",
-            run.errors);
+  EXPECT_EQ("cannot open file: " + BundlePath("agent_de.properties") + "\n", run.errors);
   EXPECT_EQ(Line("agent_de.properties", "Hello") + Line("agent_de.properties", "Other"), Log());
 }
 
@@ -212,9 +217,7 @@ TEST_F(PropertyLookup, MalformedLinesAreReportedOnceAndTheOthersUsed) {
 
   EXPECT_EQ(0, run.exitCode);
   EXPECT_EQ("1\nHallo\n", run.output);
-  EXPECT_EQ(
-      tree_.Path("product/resources/agent_de.properties") + ":1 does not contain '='. Skipped\n",
-      run.errors);
+  EXPECT_EQ(BundlePath("agent_de.properties") + ":1 does not contain '='. Skipped\n", run.errors);
 }
 
 TEST_F(PropertyLookup, ThreadsShareOneTranslator) {

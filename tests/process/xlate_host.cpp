@@ -39,6 +39,7 @@
 
 #include "CKxXlate.h"
 #include "process/host_steps.h"
+#include "tools/arguments.h"
 
 namespace {
 
@@ -176,7 +177,7 @@ class Host {
 }  // namespace
 
 int main(int count, char** values) {
-  const std::vector<std::string> words(values + 1, values + count);
+  const std::vector<std::string> words = Utf8Arguments(count, values);
   Host host;
   for (std::size_t at = 0; at < words.size();) {
     const std::string& step = words[at++];

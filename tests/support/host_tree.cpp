@@ -7,6 +7,10 @@ namespace {
 const char* const kLibraryVariables[] = {"TAVI_XLATE_ROOT", "TAVI_AGENT_ROOT", "PWSVC_HOME",
                                          "TAVI_PROXY_ROOT", "TAVI_POLSRV_ROOT"};
 
+void Copy(const std::filesystem::path& source, const std::filesystem::path& target) {
+  std::filesystem::copy_file(source, target, std::filesystem::copy_options::overwrite_existing);
+}
+
 }  // namespace
 
 std::string HostProgram() { return KXXLATE_HOST_PROGRAM; }
@@ -36,7 +40,10 @@ std::string HostTree::CopyProgram(const std::string& directory, const std::strin
   MakeDirectory(directory);
   const std::filesystem::path source = PathFromUtf8(program);
   const std::filesystem::path target = PathFromUtf8(Path(directory)) / source.filename();
-  std::filesystem::copy_file(source, target, std::filesystem::copy_options::overwrite_existing);
+  Copy(source, target);
+  // Where the system looks for libraries in the program's folder.
+  const std::filesystem::path library = PathFromUtf8(KXXLATE_LIBRARY_BESIDE_PROGRAMS);
+  if (!library.empty()) Copy(library, target.parent_path() / library.filename());
   const std::u8string path = target.generic_u8string();
   return std::string(path.begin(), path.end());
 }
@@ -51,5 +58,6 @@ HostRun HostTree::Run(const std::string& program, const std::vector<std::string>
   start.outputFile = streams_.Path("output");
   start.errorFile = streams_.Path("errors");
   const int exitCode = RunProcess(start);
-  return {exitCode, streams_.Read("output"), streams_.Read("errors")};
+  return {exitCode, FromStandardStream(streams_.Read("output")),
+          FromStandardStream(streams_.Read("errors"))};
 }

@@ -23,4 +23,8 @@ struct ProcessStart {
 ///         be started.
 int RunProcess(const ProcessStart& start);
 
+/// What a process wrote to a standard stream, from the bytes that arrived: on Windows its runtime
+/// puts a carriage return in front of each line feed.
+std::string FromStandardStream(const std::string& bytes);
+
 #endif  // KX_TESTS_SUPPORT_RUN_PROCESS_H

@@ -53,3 +53,5 @@ int RunProcess(const ProcessStart& start) {
   ::waitpid(process, &status, 0);
   return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
+
+std::string FromStandardStream(const std::string& bytes) { return bytes; }

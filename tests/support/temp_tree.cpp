@@ -5,6 +5,8 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <system_error>
+#include <vector>
 
 std::filesystem::path PathFromUtf8(std::string_view text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
@@ -18,8 +20,18 @@ TempTree::TempTree() {
 }
 
 TempTree::~TempTree() {
+  // Not remove_all, which on Windows tries for ever when a file is still open, as a log always is.
+  using Entries = std::filesystem::recursive_directory_iterator;
   std::error_code ignored;  // a test that failed may have left something that cannot be removed
-  std::filesystem::remove_all(root_, ignored);
+  std::vector<std::filesystem::path> found = {root_};
+  for (Entries entry(root_, ignored); entry != Entries(); entry.increment(ignored)) {
+    found.push_back(entry->path());
+  }
+  // What lies in a directory was found behind it.
+  while (!found.empty()) {
+    std::filesystem::remove(found.back(), ignored);
+    found.pop_back();
+  }
 }
 
 std::string TempTree::Path(std::string_view relative) const {
@@ -27,6 +39,11 @@ std::string TempTree::Path(std::string_view relative) const {
   std::string text(path.begin(), path.end());
   if (relative.empty()) text.pop_back();  // joining with nothing leaves a separator
   return text;
+}
+
+std::string TempTree::SystemPath(std::string_view relative) const {
+  const std::u8string path = PathFromUtf8(Path(relative)).make_preferred().u8string();
+  return std::string(path.begin(), path.end());
 }
 
 void TempTree::Write(std::string_view relative, std::string_view bytes) const {

@@ -16,6 +16,9 @@ class TempTree {
   /// The full path, in UTF-8 and with "/", of a place in the tree; "" is the tree itself.
   std::string Path(std::string_view relative = "") const;
 
+  /// The same as the system itself writes it when it tells a program's place: on Windows with "\\".
+  std::string SystemPath(std::string_view relative = "") const;
+
   /// Writes a file, byte for byte; makes the directories that it needs.
   void Write(std::string_view relative, std::string_view bytes) const;
 

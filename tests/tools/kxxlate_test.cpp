@@ -51,6 +51,30 @@ TEST_F(Kxxlate, GetTakesArgumentsThatLookLikeOptionsBehindTwoHyphens) {
   ExpectRun(0, "Hello, -1\n", "", RunOnTexts({"get", "agent", "en", "Hello", "--", "-1"}));
 }
 
+TEST_F(Kxxlate, TakesAndPrintsLettersOfEveryLanguage) {
+  // Letters of two, three and four bytes in UTF-8.
+  const std::string word = "\xC3\xA9\xD0\xAF\xE6\x97\xA5\xF0\x9F\x98\x80";
+  const std::string directory = tree_.Path("texts in " + word);
+  tree_.Write("texts in " + word + "/" + word + "_fr.properties", word + "=" + word + " %0\n");
+
+  ExpectRun(0, word + " " + word + "!\n", "",
+            Run({"--resources", directory, "get", word, "fr", word, word + "!"}));
+  ExpectRun(0, word + ": fr\n", "", Run({"--resources", directory, "bundles"}));
+  ExpectRun(1, "",
+            "kxxlate: no key \"x" + word + "\" in bundle \"" + word + "\" for locale \"fr\"\n",
+            Run({"--resources", directory, "get", word, "fr", "x" + word}));
+  ExpectRun(2, "", "kxxlate: not a directory: " + directory + "x\n",
+            Run({"--resources", directory + "x", "bundles"}));
+}
+
+TEST_F(Kxxlate, TakesArgumentsAsTheyWereGiven) {
+  for (const std::string argument :
+       {"a b", "\"", "a\"b c\"", "\\", "a\\\\", "\\\"", "*", "*.lang", "?", "%PATH%", "\t"}) {
+    ExpectRun(0, "Hello, " + argument + "\n", "",
+              RunOnTexts({"get", "agent", "en", "Hello", argument}));
+  }
+}
+
 TEST_F(Kxxlate, GetPrintsLongTextsWhole) {
   // One around each size of the buffer that the tool tries.
   for (const std::size_t length : {240U, 247U, 248U, 249U, 250U, 503U, 504U, 505U, 5000U}) {
@@ -71,6 +95,15 @@ TEST_F(Kxxlate, AnswersOneForWhatIsNotFound) {
   ExpectRun(1, "", "kxxlate: no directory \"NOPE\" in bundle \"setup\" for locale \"fr\"\n",
             RunOnTexts({"directory", "setup", "fr", "NOPE"}));
   ExpectRun(1, "", "kxxlate: no bundles found\n", Run({"bundles"}));
+}
+
+TEST_F(Kxxlate, AnswersOneForANameWithoutFiles) {
+  tree_.MakeDirectory("none");
+  for (const char* command : {"info", "get", "label"}) {
+    std::vector<std::string> arguments = {"--resources", tree_.Path("none"), command, "nope", "fr"};
+    if (command != std::string("info")) arguments.push_back("Hello");
+    ExpectRun(1, "", "kxxlate: no bundle \"nope\" for locale \"fr\"\n", Run(arguments));
+  }
 }
 
 TEST_F(Kxxlate, LooksUpLabelsPromptsAndDirectories) {

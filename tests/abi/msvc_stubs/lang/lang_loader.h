@@ -1,0 +1,4 @@
+#pragma once
+namespace kx {
+class LangCandidates {};
+}  // namespace kx

@@ -1,0 +1,5 @@
+#pragma once
+namespace kx {
+class LanguageTable;
+class LanguageContents {};
+}  // namespace kx

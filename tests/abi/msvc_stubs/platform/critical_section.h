@@ -1,0 +1,4 @@
+#pragma once
+namespace kx {
+class CriticalSection {};
+}  // namespace kx

@@ -1,0 +1,5 @@
+#pragma once
+namespace kx {
+class KeyHash {};
+class KeyEqual {};
+}  // namespace kx

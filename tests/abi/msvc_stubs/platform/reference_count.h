@@ -1,0 +1,7 @@
+#pragma once
+namespace kx {
+class ReferenceCount {
+ public:
+  explicit ReferenceCount(int);
+};
+}  // namespace kx

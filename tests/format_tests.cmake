@@ -1,0 +1,32 @@
+# Variable insertion, and messages formatted by their keys.
+kxxlate_unit_test(variable_insertion_test
+  format/argument_walker_test.cpp
+  format/format_pieces_test.cpp
+  format/insert_variable_model_test.cpp
+  format/insert_variable_test.cpp
+  format/insert_variable_va_test.cpp
+  format/printf_piece_model_test.cpp
+  format/printf_piece_test.cpp
+  format/variable_copy_test.cpp
+  format/variable_memory_test.cpp
+  support/failing_new.cpp
+  support/failing_new.h)
+
+kxxlate_unit_test(message_test
+  core/format_test.cpp
+  core/message_text_test.cpp
+  platform/admin_locale_test.cpp)
+
+kxxlate_host_program(format_host
+  process/format_host.cpp
+  process/host_files.cpp
+  process/host_steps.h)
+target_link_libraries(format_host PRIVATE KxXlate Threads::Threads)
+
+# As hosts see the library, so that the version is found as they find it.
+kxxlate_host_test(format_process_test
+  core/product_version_test.cpp
+  process/format_test.cpp)
+add_dependencies(format_process_test format_host)
+target_compile_definitions(format_process_test PRIVATE
+  KXXLATE_FORMAT_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:format_host>")

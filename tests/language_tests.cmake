@@ -1,0 +1,22 @@
+# The language side: translators of language files, their cache, and what hosts see of them.
+kxxlate_unit_test(language_test
+  core/language_cache_test.cpp
+  lang/lang_loader_test.cpp
+  lang/real_kx_xlate_copy_test.cpp
+  lang/real_kx_xlate_lookup_test.cpp
+  lang/real_kx_xlate_stale_test.cpp
+  lang/real_kx_xlate_test.cpp
+  scenarios/language_fallback_test.cpp)
+
+# Replaces operator new, so apart from all the others.
+kxxlate_unit_test(allocation_test
+  core/allocation_failure_test.cpp
+  core/bundle_allocation_failure_test.cpp
+  core/counted_new.cpp
+  core/counted_new.h
+  core/translator_memory_test.cpp)
+
+kxxlate_host_test(language_process_test
+  process/language_directory_test.cpp
+  process/language_lookup_test.cpp
+  process/language_threads_test.cpp)
