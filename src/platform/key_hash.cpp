@@ -29,7 +29,7 @@ std::uint64_t FoldWord(std::uint64_t word) noexcept {
 
 std::uint64_t Load(const char* bytes, std::size_t size) noexcept {
   std::uint64_t word = 0;
-  std::memcpy(&word, bytes, size);
+  if (size > 0) std::memcpy(&word, bytes, size);  // an empty text may have no place at all
   return word;
 }
 
