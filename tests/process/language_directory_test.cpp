@@ -231,8 +231,8 @@ TEST_F(LanguageDirectory, SharesItsLogWithTheBundles) {
   tree_.Write("product/resources/bundle_fr.properties", "A=a\n");
   ExpectOutput("product/bin", Steps({kLookUp, {"text", "bundle", "fr", "K"}, kLookUp}),
                "(null)\n(null)\n(null)\n");
-  EXPECT_EQ(kNoFrench + tree_.Path("product/resources/bundle_fr.properties") +
-                " key not found: K\n" + kNoFrench,
+  EXPECT_EQ(kNoFrench + tree_.SystemPath("product") +
+                "/resources/bundle_fr.properties key not found: K\n" + kNoFrench,
             tree_.Read("product/log/translate.log"));
 }
 

@@ -66,7 +66,7 @@ TEST_P(LanguageOfHost, IsAnswered) {
   EXPECT_EQ(c.output, run.output);
   EXPECT_EQ("", run.errors);
   std::string log = c.log;
-  if (log[0] == '$') log.replace(0, 1, Resources());
+  if (log[0] == '$') log.replace(0, 1, tree_.SystemPath("product") + "/resources/");
   EXPECT_EQ(log, tree_.Read("product/log/translate.log"));
 }
 

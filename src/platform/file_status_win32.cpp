@@ -1,0 +1,41 @@
+#include "platform/file_status.h"
+
+#include <windows.h>
+
+#include "platform/wide_path_win32.h"
+
+namespace {
+
+// The system counts in units of 100 ns since 1601.
+constexpr std::int64_t kUnitsOfASecond = 10'000'000;
+constexpr std::int64_t kUnitsFrom1601To1970 = 116'444'736'000'000'000;
+
+std::int64_t Seconds(const FILETIME& time) {
+  const auto units = static_cast<std::int64_t>(
+      static_cast<std::uint64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime);
+  return (units - kUnitsFrom1601To1970) / kUnitsOfASecond;
+}
+
+}  // namespace
+
+int KxStat(const char* path, KxFileStatus* status) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  // Opened rather than asked by name, so that symbolic links are followed; the flag lets
+  // directories be opened, too.
+  const HANDLE file = ::CreateFileW(kx::WidePath(path).c_str(), FILE_READ_ATTRIBUTES, kShareAll,
+                                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return -1;
+  BY_HANDLE_FILE_INFORMATION found;
+  const bool known = ::GetFileInformationByHandle(file, &found) != 0;
+  ::CloseHandle(file);
+  if (!known) return -1;
+  status->modified = Seconds(found.ftLastWriteTime);
+  const bool isDirectory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  status->mode = isDirectory ? kKxModeDirectory : 0;
+  return 0;
+}
+
+bool KxIsNetworkPath(const char* path) {
+  const auto isSeparator = [](char c) { return c == '/' || c == '\\'; };
+  return isSeparator(path[0]) && isSeparator(path[1]);
+}
