@@ -11,15 +11,15 @@ export WINEDEBUG=-all
 export WINEDLLOVERRIDES='mscoree,mshtml='
 unset DISPLAY WAYLAND_DISPLAY
 
-if [ ! -e "$WINEPREFIX/.complete" ]; then
-  mkdir -p "$WINEPREFIX"
-  # Several may come at once; one makes it, the others wait.
-  (
-    flock 9
-    if [ ! -e "$WINEPREFIX/.complete" ]; then
-      wine wineboot --init >/dev/null 2>&1
-      touch "$WINEPREFIX/.complete"
-    fi
-  ) 9>"$WINEPREFIX/.lock"
-fi
+mkdir -p "$WINEPREFIX"
+# The server's first client starts wine's services, and they keep its output open as long as they
+# live: whoever read our program's output to its end would wait for them. So the server is started
+# here, with a client that has no output, and stays for a minute after its last client. Nor may it
+# keep the lock, by which one starts it and the others wait. What goes wrong, our program tells.
+(
+  flock 9
+  if wineserver -p60 9>&-; then
+    wine wineboot 9>&- || true
+  fi
+) 9>"$WINEPREFIX/.lock" </dev/null >/dev/null 2>&1
 exec wine "$@"

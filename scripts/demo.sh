@@ -2,12 +2,12 @@
 # Builds the library and shows texts of the example catalogues in several locales.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-source scripts/packages.sh
+source scripts/common.sh
 
 need_packages "${BUILD_PACKAGES[@]}"
 echo "Building into build/release."
-cmake --preset release >/dev/null
-cmake --build --preset release | tail -n 1
+quietly cmake --preset release
+quietly cmake --build --preset release
 
 catalogues=examples/catalogues/resources
 kxxlate() {

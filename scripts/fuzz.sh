@@ -4,15 +4,15 @@
 #   scripts/fuzz.sh [SECONDS]    for each input format; 10 unless told otherwise
 set -euo pipefail
 cd "$(dirname "$0")/.."
-source scripts/packages.sh
+source scripts/common.sh
 
 seconds=${1:-10}
 need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang libclang-rt-dev
 echo "Building into build/fuzz."
-cmake --preset clang -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKXXLATE_FUZZ=ON \
-  -DKXXLATE_SANITIZE=fuzzer-no-link,address,undefined >/dev/null
+quietly cmake --preset clang -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKXXLATE_FUZZ=ON \
+  -DKXXLATE_SANITIZE=fuzzer-no-link,address,undefined
 inputs=(positional_insertion variable_insertion properties_file lang_file locale)
-cmake --build build/fuzz --target "${inputs[@]/%/_fuzzer}" | tail -n 1
+quietly cmake --build build/fuzz --target "${inputs[@]/%/_fuzzer}"
 # New inputs go to a scratch folder; what is worth keeping is copied by hand.
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT

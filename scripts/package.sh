@@ -2,7 +2,7 @@
 # Makes the packages: a zip for 64-bit Windows, and a set of Debian packages. They lie in build/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-source scripts/packages.sh
+source scripts/common.sh
 
 need_packages "${BUILD_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}"
 
@@ -11,9 +11,9 @@ package() {
   local build=build/package-$1 preset=$2
   shift 2
   echo "Building into $build."
-  cmake --preset "$preset" -B "$build" -DCMAKE_BUILD_TYPE=Release -DKXXLATE_TESTS=OFF "$@" >/dev/null
-  cmake --build "$build" | tail -n 1
-  (cd "$build" && cpack >/dev/null)
+  quietly cmake --preset "$preset" -B "$build" -DCMAKE_BUILD_TYPE=Release -DKXXLATE_TESTS=OFF "$@"
+  quietly cmake --build "$build"
+  (cd "$build" && quietly cpack)
 }
 
 package linux release -DCMAKE_INSTALL_PREFIX=/usr

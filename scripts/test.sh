@@ -5,13 +5,13 @@
 #                                under wine
 set -euo pipefail
 cd "$(dirname "$0")/.."
-source scripts/packages.sh
+source scripts/common.sh
 
 preset=${1:-debug}
 packages=("${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}")
 [ "$preset" != mingw ] || packages+=("${WINDOWS_PACKAGES[@]}")
 need_packages "${packages[@]}"
 echo "Building into build/$preset."
-cmake --preset "$preset" >/dev/null
-cmake --build --preset "$preset" | tail -n 1
+quietly cmake --preset "$preset"
+quietly cmake --build --preset "$preset"
 ctest --preset "$preset" --parallel "$(nproc)" --schedule-random

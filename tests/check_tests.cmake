@@ -28,15 +28,14 @@ endif()
 if(KXXLATE_SANITIZE)
   list(APPEND consumer_options -DCMAKE_CXX_FLAGS=-fsanitize=${KXXLATE_SANITIZE})
 endif()
-add_test(NAME Library.IsFoundByAnotherProjectOnceInstalled
-  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume_installed.sh ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}
-    ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer consumer${CMAKE_EXECUTABLE_SUFFIX}
-    ${consumer_options} -- ${CMAKE_CROSSCOMPILING_EMULATOR})
-
-add_test(NAME Library.IsFoundByAnotherProjectOnceUnpacked
-  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume_package.sh ${CMAKE_CPACK_COMMAND}
-    ${PROJECT_BINARY_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer
-    consumer${CMAKE_EXECUTABLE_SUFFIX} ${consumer_options} -- ${CMAKE_CROSSCOMPILING_EMULATOR})
+foreach(way IN ITEMS Installed Packed)
+  string(TOLOWER ${way} how)
+  add_test(NAME Library.IsFoundByAnotherProjectOnce${way}
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume.sh ${how} ${PROJECT_BINARY_DIR}
+      ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer consumer${CMAKE_EXECUTABLE_SUFFIX}
+      ${PROJECT_SOURCE_DIR}/examples/catalogues/resources ${consumer_options}
+      -- ${CMAKE_CROSSCOMPILING_EMULATOR})
+endforeach()
 
 get_property(checks DIRECTORY PROPERTY TESTS)
 set_tests_properties(${checks} PROPERTIES TIMEOUT 120)

@@ -2,7 +2,7 @@
 # Checks what no test sees: format, layers, lints. Stops at the first that fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-source scripts/packages.sh
+source scripts/common.sh
 
 need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" git clang-format clang-tidy clang
 listed=$(git ls-files '*.h' '*.cpp')
@@ -12,7 +12,7 @@ clang-format --dry-run -Werror "${sources[@]}"
 echo "Layers, platform conditionals, plain ASCII."
 tools/check_includes.py
 echo "Lints."
-cmake --preset clang -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >/dev/null
+quietly cmake --preset clang -DCMAKE_EXPORT_COMPILE_COMMANDS=ON
 listed=$(git ls-files 'src/*.cpp' 'tools/*.cpp' ':!*_win32.cpp')
 mapfile -t linted <<<"$listed"
 printf '%s\0' "${linted[@]}" |

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -134,12 +133,15 @@ std::uint64_t WordOf(Argument argument) {
   }
 }
 
+template <class... Arguments>
+void TakeMixedList(std::size_t seed, Arguments... arguments) {
+  EXPECT_EQ(Words{WordOf(arguments)...}, Take({KindOf<Arguments>()...}, arguments...))
+      << "seed " << seed;
+}
+
 template <std::size_t kSeed, std::size_t... kPlaces>
 void TakeMixedList(std::index_sequence<kPlaces...> /*unused*/) {
-  const auto arguments = std::make_tuple(ArgumentAt<kSeed, kPlaces>()...);
-  const Kinds kinds = {KindOf<std::decay_t<decltype(std::get<kPlaces>(arguments))>>()...};
-  const Words expected = {WordOf(std::get<kPlaces>(arguments))...};
-  EXPECT_EQ(expected, Take(kinds, std::get<kPlaces>(arguments)...)) << "seed " << kSeed;
+  TakeMixedList(kSeed, ArgumentAt<kSeed, kPlaces>()...);
 }
 
 template <std::size_t... kSeeds>

@@ -1,5 +1,6 @@
-# To be sourced. need_packages PACKAGE...: installs the Debian packages that are missing, and says
-# so.
+# What the scripts share; to be sourced.
+
+# need_packages PACKAGE...: installs the Debian packages that are missing, and says so.
 need_packages() {
   local missing=()
   local package
@@ -17,9 +18,19 @@ need_packages() {
     command -v sudo >/dev/null || { echo "Neither root nor sudo: install them by hand."; return 1; }
     as_root=(sudo)
   fi
-  "${as_root[@]}" apt-get update -qq
-  DEBIAN_FRONTEND=noninteractive \
-    "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+  quietly "${as_root[@]}" apt-get update -qq
+  quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# quietly COMMAND...: shows what the command writes only if it fails.
+quietly() {
+  local written status=0
+  written=$(mktemp)
+  "$@" >"$written" 2>&1 || status=$?
+  [ "$status" -eq 0 ] || cat "$written"
+  rm "$written"
+  return "$status"
 }
 
 BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
