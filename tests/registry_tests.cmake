@@ -12,7 +12,12 @@ kxxlate_unit_test(bundle_registry_test
   scenarios/property_fallback_test.cpp)
 
 kxxlate_host_test(abi_test
-  abi/slot_order_test.cpp)
+  abi/slot_order_test.cpp
+  abi/translator_slots_test.cpp)
+if(WIN32)
+  target_sources(abi_test PRIVATE abi/version_windows_test.cpp)
+  target_link_libraries(abi_test PRIVATE version)
+endif()
 
 kxxlate_host_test(property_process_test
   process/property_lookup_test.cpp)

@@ -27,9 +27,9 @@ class NeverDestroyed {
   alignas(T) std::byte storage_[sizeof(T)];
 };
 
-// Every object of the process lives in this file, because only inside one file does the language
-// fix the order in which they are made, top to bottom. Each folder
-// declares the accessor of its own object; nobody else may define a non-constant global.
+// Every object that is made at load lives in this file, because only inside one file does the
+// language fix the order in which they are made, top to bottom. Each folder declares the accessor of
+// its own object; nobody else may define a global that is not a constant.
 NeverDestroyed<InternTable> g_internTable;
 NeverDestroyed<LanguagePaths> g_languagePaths;
 std::uint32_t g_nextTranslatorId = 1;

@@ -87,8 +87,11 @@ class Host {
     kept_.push_back(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])));
   }
 
+  /// Ends the program when nothing is kept.
+  CKxXlate* LastKept() const { return kept_.at(kept_.size() - 1); }
+
   void ReleaseLast() {
-    kept_.back()->Release();
+    LastKept()->Release();
     kept_.pop_back();
   }
 
@@ -135,7 +138,7 @@ class Host {
 
   void PrintSame(const Arguments& a) {
     CKxXlate* translator = CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1]));
-    PrintTruth(translator == kept_.back());
+    PrintTruth(translator == LastKept());
     if (translator != nullptr) translator->Release();
   }
 
@@ -154,7 +157,7 @@ class Host {
       {"use",
        {1, [](const auto& a) { PrintTruth(CKxXlate::SetResourceDirectory(Pointer(a[0]))); }}},
       {"keep", {2, [this](const auto& a) { Keep(a); }}},
-      {"kept", {1, [this](const auto& a) { Print(kept_.back()->GetText(Pointer(a[0]))); }}},
+      {"kept", {1, [this](const auto& a) { Print(LastKept()->GetText(Pointer(a[0]))); }}},
       {"same", {2, [this](const auto& a) { PrintSame(a); }}},
       {"release", {0, [this](const auto&) { ReleaseLast(); }}},
       {"free", {0, [](const auto&) { CKxXlate::FreeCache(); }}},
