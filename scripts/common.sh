@@ -34,6 +34,6 @@ quietly() {
 }
 
 BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
-TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang)
+TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev)
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine wine64 python3 binutils)
 PACKAGING_PACKAGES=(dpkg-dev file)

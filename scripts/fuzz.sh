@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 source scripts/common.sh
 
 seconds=${1:-10}
-need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" clang libclang-rt-dev
+need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
 echo "Building into build/fuzz."
 quietly cmake --preset clang -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKXXLATE_FUZZ=ON \
   -DKXXLATE_SANITIZE=fuzzer-no-link,address,undefined

@@ -7,6 +7,9 @@ kxxlate_unit_test(language_test
   lang/real_kx_xlate_stale_test.cpp
   lang/real_kx_xlate_test.cpp
   scenarios/language_fallback_test.cpp)
+if(WIN32)
+  target_sources(language_test PRIVATE lang/lang_loader_windows_test.cpp)
+endif()
 
 # Replaces operator new, so apart from all the others.
 kxxlate_unit_test(allocation_test

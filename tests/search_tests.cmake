@@ -21,7 +21,9 @@ kxxlate_unit_test(platform_test
   platform/files_test.cpp
   platform/stream_bytes.h)
 if(WIN32)
-  target_sources(platform_test PRIVATE platform/files_windows_test.cpp)
+  target_sources(platform_test PRIVATE
+    platform/files_windows_test.cpp
+    platform/wide_path_windows_test.cpp)
 else()
   target_sources(platform_test PRIVATE
     platform/file_effects_posix_test.cpp

@@ -3,7 +3,8 @@
 # files, permissions, the mask, programs with set-user-ID. What this system has instead is tested in
 # files named *_windows_test.cpp and windows_*_test.cpp.
 set(windows_exceptions
-  # Names that differ in case alone are one file here. WindowsSearch has tests of names in capitals.
+  # Names that differ in case alone are one file here. WindowsSearch has tests of names in another
+  # case: of directories, of bundles and of language files.
   XlateManagerOfDirectory.CapitalsComeFirst
   LangLoader.PassesOverAFileOfAnotherCase
   LanguageCache.AnswersAsTheFirstRequestWasSpelled
@@ -22,8 +23,8 @@ set(windows_exceptions
   LangLoader.FollowsLinksToFiles
   LangLoader.PassesOverALinkThatLeadsNowhere
 
-  # Pipes have no place in a directory, and devices have names of their own: FilesOnWindows and
-  # WindowsSearch have tests of these.
+  # Pipes have no place in a directory, and devices have names of their own: FilesOnWindows has tests
+  # of both, WindowsSearch of devices.
   PropertiesFile.PipeCannotBeOpenedAndIsNotWaitedFor
   LangLoader.DoesNotReadADevice
   LangLoader.DoesNotWaitForAPipe
@@ -36,7 +37,8 @@ set(windows_exceptions
   LangLoader.PassesOverAFileThatMayNotBeRead
   LangLoader.PassesOverAFileInADirectoryThatMayNotBeEntered
 
-  # The administrator's locale is not in the environment: see KxxlateOnWindows.
+  # The administrator's locale is not in the environment, and no test can set the system's: see
+  # KxxlateOnWindows and LocaleFromSystemName. What follows from it is the same code on every system.
   Kxxlate.FormatTakesTheAdministratorsLocaleWhenAsked
   AdminLocale.*
   */AdminLocale.*
@@ -51,18 +53,20 @@ set(windows_exceptions
   */AbsentKey.IsOneLineOfTheLog/Long
 
   # The host sees the end of a translator by replacing operator delete, which here each module has
-  # for itself. RealKxXlate has tests of the references within one module.
+  # for itself. RealKxXlate has tests of the references within one module, and what takes them is the
+  # same code on every system.
   FormattedMessage.EachResolutionLeavesAReference*
   FormattedMessage.EachMessageLeavesAReference
   FormattedMessage.WithoutALookupNoReferenceIsTaken
 
-  # Cut again and again, a path of this system ends as its drive, never as nothing, and only
-  # nothing makes the search for "Language" begin. ResourceDirectorySearch has tests of drives.
+  # Cut again and again, a path of this system ends as its drive, and only nothing makes the search
+  # for "Language" begin. What ends as nothing is a path on another machine, which wine has none of:
+  # ResourceDirectorySearch has tests of both.
   LanguageDirectoryNearTheTop.IsNamed*
   LanguageDirectoryNearTheTop.IsNotNamedLanguageInSmallLetters
   LanguageDirectoryNearTheTop.IsNotMovedByAReplacement
   LanguageDirectoryNearTheTop.WhoeverWritesFirstDecidesWhereTheLogIs
 
-  # A path that begins with two separators names another machine.
+  # A path that begins with two separators names another machine: see LangLoaderOnWindows.
   LanguageDirectory.IsTheTopOfTheFileSystemWithoutResources
 )

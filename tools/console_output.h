@@ -3,8 +3,8 @@
 
 #include <memory>
 
-/// While it lives, std::cout and std::cerr show UTF-8 text right on a console. Files and pipes get
-/// the bytes as they are.
+/// While it lives, std::cout and std::cerr show UTF-8 text right on a console. From its making on,
+/// files and pipes get the bytes as they are.
 class ConsoleOutput {
  public:
   ConsoleOutput();

@@ -1,9 +1,12 @@
 #include "console_output.h"
 
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdio>
 #include <iostream>
 #include <optional>
 #include <sstream>
@@ -34,27 +37,42 @@ class ConsoleBuffer final : public std::stringbuf {
   int sync() override {
     const std::wstring text = ToWide(str());
     str("");
-    // Older consoles refuse much more than this in one call.
-    constexpr std::size_t kMostCharacters = 8 * 1024;
     for (std::size_t at = 0; at < text.size();) {
-      const auto size = static_cast<DWORD>(std::min(text.size() - at, kMostCharacters));
+      const std::size_t size = SizeOfPiece(text, at);
       DWORD written = 0;
-      if (::WriteConsoleW(console_, text.data() + at, size, &written, nullptr) == 0) return -1;
+      if (::WriteConsoleW(console_, text.data() + at, static_cast<DWORD>(size), &written,
+                          nullptr) == 0)
+        return -1;
+      if (written == 0) return -1;
       at += written;
     }
     return 0;
   }
 
  private:
+  /// How much of the text goes into one call. A character of two units is not torn.
+  static std::size_t SizeOfPiece(const std::wstring& text, std::size_t at) {
+    // Older consoles refuse much more than this.
+    constexpr std::size_t kMostUnits = 8 * 1024;
+    if (text.size() - at <= kMostUnits) return text.size() - at;
+    return IS_HIGH_SURROGATE(text[at + kMostUnits - 1]) ? kMostUnits - 1 : kMostUnits;
+  }
+
   HANDLE console_;
 };
 
-/// Puts a console's buffer into a stream, if that goes to a console.
+/// Puts a console's buffer into a stream that goes to a console. Of any other the runtime leaves
+/// the bytes as they are, instead of ending lines in its own way.
 class Redirection {
  public:
-  Redirection(std::ostream& stream, DWORD standardHandle) : stream_(stream) {
+  Redirection(std::ostream& stream, std::FILE* file, DWORD standardHandle) : stream_(stream) {
     const HANDLE handle = ::GetStdHandle(standardHandle);
-    if (IsConsole(handle)) before_ = stream.rdbuf(&buffer_.emplace(handle));
+    const int descriptor = ::_fileno(file);
+    if (IsConsole(handle)) {
+      before_ = stream.rdbuf(&buffer_.emplace(handle));
+    } else if (descriptor >= 0) {
+      ::_setmode(descriptor, _O_BINARY);
+    }
   }
   ~Redirection() {
     if (before_ == nullptr) return;
@@ -70,10 +88,15 @@ class Redirection {
   std::streambuf* before_ = nullptr;
 };
 
-/// For what the library itself writes to standard error, by way of the runtime.
+/// For what the library itself writes to standard error, by way of the runtime. Left alone when
+/// that is no console, since programs that run at the same time share the setting.
 class ConsoleCodePage {
  public:
-  ConsoleCodePage() : before_(::GetConsoleOutputCP()) { ::SetConsoleOutputCP(CP_UTF8); }
+  ConsoleCodePage() {
+    if (!IsConsole(::GetStdHandle(STD_ERROR_HANDLE))) return;
+    before_ = ::GetConsoleOutputCP();
+    ::SetConsoleOutputCP(CP_UTF8);
+  }
   ~ConsoleCodePage() {
     // The console outlives this process, and the next program has not asked for UTF-8.
     if (before_ != 0) ::SetConsoleOutputCP(before_);
@@ -82,15 +105,15 @@ class ConsoleCodePage {
   ConsoleCodePage& operator=(const ConsoleCodePage&) = delete;
 
  private:
-  UINT before_;
+  UINT before_ = 0;
 };
 
 }  // namespace
 
 struct ConsoleOutput::State {
   ConsoleCodePage codePage;
-  Redirection output{std::cout, STD_OUTPUT_HANDLE};
-  Redirection errors{std::cerr, STD_ERROR_HANDLE};
+  Redirection output{std::cout, stdout, STD_OUTPUT_HANDLE};
+  Redirection errors{std::cerr, stderr, STD_ERROR_HANDLE};
 };
 
 ConsoleOutput::ConsoleOutput() : state_(std::make_unique<State>()) {}

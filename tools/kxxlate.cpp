@@ -24,6 +24,7 @@ using Command = ExitCode (*)(const Request&);
 class CommandLine {
  public:
   CommandLine() : app_("Texts of KxXlate catalogues", "kxxlate") {
+    app_.allow_windows_style_options(false);  // a value may begin with "/" on every system
     app_.require_subcommand(1);
     app_.set_version_flag("--version", std::string(getProductVersion()));
     app_.add_option("--resources", request_.resources,

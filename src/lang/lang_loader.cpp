@@ -22,10 +22,12 @@ class LogSink final : public ProblemSink {
   const std::string& root_;
 };
 
-/// Whether the path has become that of another machine, though the directory is not there: when no
-/// directory was found it is "/", and a language may be empty or begin with a separator.
+/// Whether the path has become that of another machine, though the directory, without the separator
+/// behind it, is on this one. When no directory was found it is nothing, and a language may be
+/// empty or begin with a separator.
 bool LeavesTheMachine(const std::string& directory, const std::string& path) {
-  return directory == "/" && KxIsNetworkPath(path.c_str());
+  const std::string place = directory.substr(0, directory.size() - 1);
+  return KxIsNetworkPath(path.c_str()) && !KxIsNetworkPath(place.c_str());
 }
 
 }  // namespace

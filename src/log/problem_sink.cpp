@@ -9,6 +9,8 @@ void StandardErrorSink::Line(const std::string& text) {
   // makes its use from two threads a data race.
   const std::string line = text + '\n';
   std::fwrite(line.data(), 1, line.size(), stderr);
+  // Not every runtime leaves standard error without a buffer when it goes to a file or a pipe.
+  std::fflush(stderr);
 }
 
 }  // namespace kx

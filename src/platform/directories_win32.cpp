@@ -35,16 +35,22 @@ bool IsDotName(std::wstring_view name) { return name == L"." || name == L".."; }
 namespace kx {
 
 bool ListDirectory(const char* directory, std::vector<DirectoryEntry>& entries) {
-  if (*directory == '\0') return false;  // or the pattern would name the root of the drive
-  Search search(WidePath((std::string(directory) + "\\*").c_str()));
-  if (!search.IsOpen()) return false;
+  std::string pattern = directory;
+  if (pattern.empty()) return false;  // or the pattern would name the root of the drive
+  // Two separators at the beginning would name another machine.
+  if (pattern.find_last_of("/\\") != pattern.size() - 1) pattern += '\\';
+  Search search(WidePath(pattern.append("*").c_str()));
+  if (!search.IsOpen())
+    return ::GetLastError() == ERROR_FILE_NOT_FOUND;  // the root of an empty drive
   do {
     const std::wstring_view name = search.Entry().cFileName;
     if (IsDotName(name)) continue;
+    const std::string utf8Name = ToUtf8(name);
+    if (utf8Name.empty()) continue;  // half a surrogate pair: no UTF-8 text can name it
     const bool isDirectory = (search.Entry().dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    entries.push_back({ToUtf8(name), isDirectory});
+    entries.push_back({utf8Name, isDirectory});
   } while (search.Next());
-  return true;
+  return ::GetLastError() == ERROR_NO_MORE_FILES;
 }
 
 }  // namespace kx

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 #include "platform/wide_path_win32.h"
 
 CKxExecutablePath::CKxExecutablePath() {
@@ -14,7 +16,7 @@ CKxExecutablePath::CKxExecutablePath() {
     if (length == 0) return;
     if (length == room) continue;
     path.resize(length);
-    path_ = kx::ToUtf8(path);
+    path_ = kx::ToUtf8(kx::WithoutLongPrefix(std::move(path)));
     return;
   }
 }

@@ -27,13 +27,18 @@ FileHandle Open(const char* path, DWORD access, DWORD disposition) {
 FileHandle OpenRegularFile(const char* path) {
   const FileHandle file = Open(path, GENERIC_READ, OPEN_EXISTING);
   if (file == kNoFile) return kNoFile;
-  // Devices have names in every directory: "NUL.lang" is one.
+  // A device or a pipe can still be reached, by a name that only the system uses.
   if (::GetFileType(Handle(file)) == FILE_TYPE_DISK) return file;
   ::CloseHandle(Handle(file));
   return kNoFile;
 }
 
-FileHandle OpenForAppending(const char* path) { return Open(path, FILE_APPEND_DATA, OPEN_ALWAYS); }
+FileHandle OpenForAppending(const char* path) {
+  const FileHandle file = Open(path, FILE_APPEND_DATA, OPEN_ALWAYS);
+  if (file == kNoFile || ::GetFileType(Handle(file)) != FILE_TYPE_PIPE) return file;
+  ::CloseHandle(Handle(file));
+  return kNoFile;
+}
 
 std::size_t ReadFileBlock(FileHandle file, char* block, std::size_t size) {
   DWORD count = 0;

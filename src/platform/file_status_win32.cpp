@@ -13,7 +13,9 @@ constexpr std::int64_t kUnitsFrom1601To1970 = 116'444'736'000'000'000;
 std::int64_t Seconds(const FILETIME& time) {
   const auto units = static_cast<std::int64_t>(
       static_cast<std::uint64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime);
-  return (units - kUnitsFrom1601To1970) / kUnitsOfASecond;
+  const std::int64_t since1970 = units - kUnitsFrom1601To1970;
+  // Down to the whole second, before 1970 as well.
+  return since1970 / kUnitsOfASecond - (since1970 % kUnitsOfASecond < 0 ? 1 : 0);
 }
 
 }  // namespace

@@ -8,12 +8,18 @@
 
 namespace kx {
 
+/// Empty when the text is not well-formed.
 std::wstring ToWide(std::string_view utf8);
 std::string ToUtf8(std::wstring_view wide);
 
-/// A path as the wide calls take it. One too long for them in its plain form is made absolute and
-/// gets the prefix that lifts their limit.
+/// A UTF-8 path as the wide calls take it: absolute, and with the prefix that lifts their limit
+/// when it is too long for them without. Empty, which every call refuses, for what is no path of a
+/// file: the name of a device, which on older systems may stand in any directory, and broken UTF-8.
 std::wstring WidePath(const char* path);
+
+/// The path as one writes it. Programs deep in a tree are started by a path with that prefix, and
+/// behind it "/" does not separate.
+std::wstring WithoutLongPrefix(std::wstring path);
 
 }  // namespace kx
 

@@ -41,11 +41,11 @@ for needed in README.md CKxXlate.h Xlate.h KxXlateExport.h KxXlateConfig.cmake; 
   [ -n "$(find "$prefix" -name "$needed")" ] || { echo "$needed is missing"; exit 1; }
 done
 
-# expect EXPECTED COMMAND...: compares what the command writes.
+# expect EXPECTED COMMAND...: compares what the command writes, byte for byte.
 expect() {
   local expected=$1 written
   shift
-  written=$("$@" | tr -d '\r')
+  written=$("$@")
   [ "$written" = "$expected" ] || { echo "$*: $written"; exit 1; }
 }
 

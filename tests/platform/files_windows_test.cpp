@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -75,6 +76,71 @@ TEST_F(FilesOnWindows, AFileThatAnotherKeepsToItselfIsNotOpened) {
   EXPECT_TRUE(HasStatus(tree_.Path("file")));
   ::CloseHandle(kept);
   EXPECT_EQ("old", ReadThroughStream(tree_.Path("file")));
+}
+
+/// A pipe that one client may open, by either name that the system has for it.
+class OfferedPipe {
+ public:
+  OfferedPipe()
+      : handle_(::CreateNamedPipeA(("\\\\.\\" + name_).c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE,
+                                   1, kBytes, kBytes, 0, nullptr)) {
+    EXPECT_NE(INVALID_HANDLE_VALUE, handle_);
+  }
+  ~OfferedPipe() { ::CloseHandle(handle_); }
+  OfferedPipe(const OfferedPipe&) = delete;
+  OfferedPipe& operator=(const OfferedPipe&) = delete;
+
+  std::string Path(const std::string& prefix) const { return prefix + name_; }
+
+ private:
+  static constexpr DWORD kBytes = 512;
+  const std::string name_ = "pipe\\kxxlate-" + std::to_string(::GetCurrentProcessId());
+  HANDLE handle_;
+};
+
+TEST_F(FilesOnWindows, PipesAreNotOpened) {
+  for (const std::string prefix : {"\\\\.\\", "\\\\?\\"}) {
+    EXPECT_EQ("(not open)", ReadThroughStream(OfferedPipe().Path(prefix))) << prefix;
+    EXPECT_FALSE(Append(OfferedPipe().Path(prefix), "bytes")) << prefix;
+  }
+}
+
+TEST_F(FilesOnWindows, PathsThatAreNotUtf8NameNothing) {
+  tree_.Write("a\xEF\xBF\xBD", "bytes");
+  EXPECT_EQ("bytes", ReadThroughStream(tree_.Path("a\xEF\xBF\xBD")));
+  EXPECT_EQ("(not open)", ReadThroughStream(tree_.Path("a") + "\xFF"));
+  EXPECT_FALSE(HasStatus(tree_.Path("a") + "\xFF"));
+  EXPECT_NE(0, KxMakeDir((tree_.Path("b") + "\xFF").c_str(), kAnyAccess));
+}
+
+TEST_F(FilesOnWindows, TimesBefore1970AreRoundedDown) {
+  tree_.Write("file", "");
+  const std::int64_t units = 116'444'736'000'000'000 - 5'000'000;  // half a second before
+  FILETIME time;
+  time.dwLowDateTime = static_cast<DWORD>(units);
+  time.dwHighDateTime = static_cast<DWORD>(units >> 32);
+  const HANDLE file = ::CreateFileW(PathFromUtf8(tree_.SystemPath("file")).c_str(),
+                                    FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(INVALID_HANDLE_VALUE, file);
+  EXPECT_TRUE(::SetFileTime(file, nullptr, nullptr, &time));
+  ::CloseHandle(file);
+  ASSERT_TRUE(HasStatus(tree_.Path("file")));
+  EXPECT_EQ(-1, status_.modified);
+}
+
+TEST_F(FilesOnWindows, RootOfTheDriveIsListed) {
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(PathFromUtf8(tree_.Path()));
+  const std::string drive = tree_.SystemPath().substr(0, 2);
+  EntryList named;
+  EXPECT_EQ(0, KxTraverseDirectory((drive + "/").c_str(), &named));
+  EXPECT_FALSE(named.entries.empty());
+  for (const char* const root : {"/", "\\"}) {
+    EntryList list;
+    EXPECT_EQ(0, KxTraverseDirectory(root, &list)) << root;
+    EXPECT_EQ(named.entries, list.entries) << root;
+  }
+  std::filesystem::current_path(before);
 }
 
 DWORD OpenHandles() {

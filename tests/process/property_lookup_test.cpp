@@ -220,6 +220,16 @@ TEST_F(PropertyLookup, MalformedLinesAreReportedOnceAndTheOthersUsed) {
   EXPECT_EQ(BundlePath("agent_de.properties") + ":1 does not contain '='. Skipped\n", run.errors);
 }
 
+TEST_F(PropertyLookup, ReportIsNotLostWithTheProcess) {
+  Write("agent_de.properties", "no key\nHello=Hallo\n");
+
+  const HostRun run =
+      tree_.RunHostIn("product/bin", {"buffer", "text", "agent", "de", "Hello", "vanish"});
+
+  EXPECT_EQ("Hallo\n", run.output);
+  EXPECT_EQ(BundlePath("agent_de.properties") + ":1 does not contain '='. Skipped\n", run.errors);
+}
+
 TEST_F(PropertyLookup, ThreadsShareOneTranslator) {
   EXPECT_EQ("1\n", Output({"threads", "8", "agent", "fr-BE", "Hello"}));
   EXPECT_FALSE(tree_.Exists("product/log"));

@@ -108,6 +108,23 @@ TEST_F(WindowsSearch, NamesOfDirectoriesCountInEitherCase) {
   ExpectOutput("Bonjour\n", {"text", "agent", "fr", "Hello"});
 }
 
+TEST_F(WindowsSearch, NamesOfLanguageFilesCountInEitherCase) {
+  tree_.Write("product/a/resources/fr-ca/AGENT.LANG", "Name x\n\nKey Hello\nValue Salut\n");
+  ExpectOutput("Salut\n", {"text", "agent", "fr-CA", "Hello"});
+}
+
+TEST_F(WindowsSearch, VariableMayHaveThePrefixOfLongPaths) {
+  Provide("elsewhere");
+  SetRoot("\\\\?\\" + tree_.SystemPath("elsewhere"));
+  ExpectOrigin("elsewhere");
+}
+
+TEST_F(WindowsSearch, ReplacementMayHaveThePrefixOfLongPaths) {
+  tree_.Write("texts/agent_fr.properties", "Hello=Bonjour\n");
+  ExpectOutput("true\nBonjour\n", {"use", "\\\\?\\" + tree_.SystemPath("texts"),  //
+                                   "text", "agent", "fr", "Hello"});
+}
+
 TEST_F(WindowsSearch, ProgramMayLieInADirectoryWithAForeignName) {
   Provide(kForeignName);
   const HostRun run = tree_.RunHostIn(

@@ -19,6 +19,8 @@
 //   write FILE TEXT                writes a file
 //   touch FILE SECONDS             sets a file's time of last change, in seconds since 1970
 //   remove FILE                    removes a file
+//   buffer                         gives standard error a large buffer, as some runtimes do
+//   vanish                         ends the process without anything that an orderly end does
 //   threads COUNT BUNDLE LOCALE KEY   COUNT threads, started together, look the text up; prints the
 //                                  number of different translators they got
 //   misses COUNT BUNDLE LOCALE     COUNT threads ask the one translator for the same 50 absent keys
@@ -29,6 +31,7 @@
 // "(null)" as an argument passes a null pointer; a null answer is printed as "(null)". Kept
 // translators are released at the end.
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -170,6 +173,8 @@ class Host {
       {"write", {2, [](const auto& a) { WriteFile(a[0], a[1]); }}},
       {"touch", {2, [](const auto& a) { SetModified(a[0], std::atoll(a[1].c_str())); }}},
       {"remove", {1, [](const auto& a) { std::filesystem::remove(HostPath(a[0])); }}},
+      {"buffer", {0, [](const auto&) { std::setvbuf(stderr, nullptr, _IOFBF, 1U << 16U); }}},
+      {"vanish", {0, [](const auto&) { std::_Exit(0); }}},
       {"threads", {4, [](const auto& a) { LookUpInThreads(a); }}},
       {"misses", {3, [](const auto& a) { MissInThreads(a); }}},
       {"locales", {2, [](const auto& a) { AskForLocalesInThreads(a); }}},

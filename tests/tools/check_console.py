@@ -8,6 +8,7 @@ import os
 import pathlib
 import pty
 import re
+import shutil
 import sys
 import tempfile
 
@@ -35,13 +36,23 @@ def shown(command):
     return CONTROL_SEQUENCE.sub("", text).replace("\r", "")
 
 
+def copied(tool, tree):
+    """A copy of the tool, so deep in the tree that its log lies in the tree, too."""
+    folder = tree / "a" / "b" / "c" / "d"
+    folder.mkdir(parents=True)
+    for file in (tool, *tool.parent.glob("*.dll")):
+        shutil.copy2(file, folder)
+    return folder / tool.name
+
+
 def main():
-    command = sys.argv[1:]
+    *runner, tool = sys.argv[1:]
     os.environ["TERM"] = "xterm"
     breaches = 0
-    with tempfile.TemporaryDirectory() as texts:
-        pathlib.Path(texts, "agent_fr.properties").write_text(f"Hello={WORD} %0.\n", "utf-8")
-        get = [*command, "--resources", texts, "get", "agent", "fr"]
+    with tempfile.TemporaryDirectory() as tree:
+        copy = copied(pathlib.Path(tool), pathlib.Path(tree))
+        pathlib.Path(tree, "agent_fr.properties").write_text(f"Hello={WORD} %0.\n", "utf-8")
+        get = [*runner, str(copy), "--resources", tree, "get", "agent", "fr"]
         for arguments, expected in (
                 (["Hello", "\u03b1"], f"{WORD} \u03b1.\n"),
                 (["\u03b1"], 'kxxlate: no key "\u03b1" in bundle "agent" for locale "fr"\n')):

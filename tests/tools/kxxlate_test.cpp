@@ -68,8 +68,8 @@ TEST_F(Kxxlate, TakesAndPrintsLettersOfEveryLanguage) {
 }
 
 TEST_F(Kxxlate, TakesArgumentsAsTheyWereGiven) {
-  for (const std::string argument :
-       {"a b", "\"", "a\"b c\"", "\\", "a\\\\", "\\\"", "*", "*.lang", "?", "%PATH%", "\t"}) {
+  for (const std::string argument : {"a b", "\"", "a\"b c\"", "\\", "a\\\\", "\\\"", "*", "*.lang",
+                                     "?", "%PATH%", "\t", "/h", "/dev/x"}) {
     ExpectRun(0, "Hello, " + argument + "\n", "",
               RunOnTexts({"get", "agent", "en", "Hello", argument}));
   }

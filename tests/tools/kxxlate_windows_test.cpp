@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/host_tree.h"
+#include "support/run_process.h"
 
 namespace {
 
@@ -39,6 +40,23 @@ TEST_F(KxxlateOnWindows, DirectoryOfTheCataloguesMayHaveBackslashes) {
   EXPECT_EQ(
       "Hello\n",
       Run({"--resources", tree_.SystemPath("texts") + "\\", "get", "agent", "en", "Hello"}).output);
+}
+
+TEST_F(KxxlateOnWindows, BytesOfATextAreNotChanged) {
+  tree_.Write("texts/agent_en.properties", "Hello=one\\ntwo\\r\\n\n");
+  ProcessStart start;
+  start.program = tree_.CopyProgram("a/b/c/bin", KXXLATE_TOOL);
+  start.arguments = {"--resources", tree_.Path("texts"), "get", "agent", "en", "Hello"};
+  start.workingDirectory = tree_.Path();
+  start.outputFile = tree_.Path("output");
+  start.errorFile = tree_.Path("errors");
+  EXPECT_EQ(0, RunProcess(start));
+  EXPECT_EQ("one\ntwo\r\n\n", tree_.Read("output"));
+
+  start.arguments.back() = "NOPE";
+  EXPECT_EQ(1, RunProcess(start));
+  EXPECT_EQ("kxxlate: no key \"NOPE\" in bundle \"agent\" for locale \"en\"\n",
+            tree_.Read("errors"));
 }
 
 }  // namespace

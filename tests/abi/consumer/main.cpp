@@ -5,6 +5,6 @@
 int main() {
   char line[32];
   CKxXlate::Insert(line, sizeof line - 1, "%1 of %0", "ten", "three");
-  std::puts(line);
+  std::fputs(line, stdout);
   return CKxXlate::GetBundle("", "en") == nullptr ? 0 : 1;
 }
