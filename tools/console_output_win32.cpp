@@ -40,9 +40,7 @@ class ConsoleBuffer final : public std::stringbuf {
     for (std::size_t at = 0; at < text.size();) {
       const std::size_t size = SizeOfPiece(text, at);
       DWORD written = 0;
-      if (::WriteConsoleW(console_, text.data() + at, static_cast<DWORD>(size), &written,
-                          nullptr) == 0)
-        return -1;
+      ::WriteConsoleW(console_, text.data() + at, static_cast<DWORD>(size), &written, nullptr);
       if (written == 0) return -1;
       at += written;
     }

@@ -28,8 +28,8 @@ class NeverDestroyed {
 };
 
 // Every object that is made at load lives in this file, because only inside one file does the
-// language fix the order in which they are made, top to bottom. Each folder declares the accessor of
-// its own object; nobody else may define a global that is not a constant.
+// language fix the order in which they are made, top to bottom. Each folder declares the accessor
+// of its own object; nobody else may define a global that is not a constant.
 NeverDestroyed<InternTable> g_internTable;
 NeverDestroyed<LanguagePaths> g_languagePaths;
 std::uint32_t g_nextTranslatorId = 1;
