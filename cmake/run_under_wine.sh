@@ -22,13 +22,4 @@ mkdir -p "$WINEPREFIX"
     wine wineboot 9>&- || true
   fi
 ) 9>"$WINEPREFIX/.lock" </dev/null >/dev/null 2>&1
-
-status=0
-wine "$@" || status=$?
-# Seldom, wine fails behind our program's end: the loader of its own libraries finds its lists broken
-# and answers 127, which no program of ours does. What ours answered is lost, so it runs again.
-if [ "$status" -eq 127 ]; then
-  status=0
-  wine "$@" || status=$?
-fi
-exit "$status"
+exec wine "$@"
