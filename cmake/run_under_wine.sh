@@ -10,6 +10,8 @@ export WINEDEBUG=-all
 # Without these two nobody offers to download anything.
 export WINEDLLOVERRIDES='mscoree,mshtml='
 unset DISPLAY WAYLAND_DISPLAY
+# In the system's plain locale wine could only name files in ASCII.
+export LC_ALL=C.UTF-8
 
 mkdir -p "$WINEPREFIX"
 # The server's first client starts wine's services, and they keep its output open as long as they
