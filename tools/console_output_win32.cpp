@@ -4,7 +4,6 @@
 #include <io.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <iostream>
