@@ -1,5 +1,6 @@
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <optional>
 #include <string>
 
@@ -38,13 +39,14 @@ const char* FindText(const Xlate& xlate, const char* key) {
 }
 
 /// Points `arguments` at the texts in `args`; answers how many there are, whatever the host claims.
+/// The terminator of `args` itself counts as a NUL: behind a last text with its own it is one more
+/// text, an empty one.
 std::size_t SplitArguments(const Xlate& xlate, std::array<const char*, kMaxArguments>& arguments) {
   std::size_t count = 0;
-  for (std::size_t at = 0; at < xlate.args.size(); ++count) {
+  for (std::size_t at = 0; at <= xlate.args.size(); ++count) {
     if (count == xlate.argCount || count == kMaxArguments) break;
     arguments[count] = xlate.args.c_str() + at;
-    const std::size_t end = xlate.args.find('\0', at);
-    at = end == std::string::npos ? xlate.args.size() : end + 1;
+    at += std::strlen(arguments[count]) + 1;
   }
   return count;
 }

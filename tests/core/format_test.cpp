@@ -253,21 +253,30 @@ TEST_F(Format, UsesNoMoreArgumentsThanAreCounted) {
 }
 
 // A count that says more than the string holds: the texts that are there count.
+TEST_F(Format, TheStringsOwnTerminatorIsOneMoreArgument) {
+  Xlate message = MessageOf(translator_, {"Ann"});
+  message.argCount = 2;
+  EXPECT_STREQ("Ann,", CKxXlate::Format(&message, "%0,%1"));
+  EXPECT_STREQ("Hello (Ann, )", CKxXlate::Format(&message, "K1"));
+  message.args = "Ann";  // where it ends the only one
+  EXPECT_STREQ("Ann,%1", CKxXlate::Format(&message, "%0,%1"));
+}
+
 TEST_F(Format, ReadsNoArgumentBehindThoseThereAre) {
   const std::string longText(100, 'a');  // on the heap, where a sanitizer sees what reads too far
   for (const std::uint64_t count : {3ULL, 16ULL, 17ULL, 1ULL << 32U, ~0ULL}) {
     Xlate message = MessageOf(translator_, {longText, "b"});
     message.argCount = count;
-    EXPECT_EQ("Hello (" + longText + ", b)", CKxXlate::Format(&message, "K1")) << count;
-    EXPECT_STREQ("%2 b", CKxXlate::Format(&message, "%2 %1")) << count;
+    EXPECT_EQ("Hello (" + longText + ", b, )", CKxXlate::Format(&message, "K1")) << count;
+    EXPECT_STREQ("%3 b", CKxXlate::Format(&message, "%3 %1")) << count;
   }
 }
 
-TEST_F(Format, ReadsNoArgumentFromAnEmptyString) {
+TEST_F(Format, ReadsNoArgumentBehindAnEmptyString) {
   Xlate message = MessageOf(translator_);
   message.argCount = 5;
-  EXPECT_STREQ("Hello", CKxXlate::Format(&message, "K1"));
-  EXPECT_STREQ("%0", CKxXlate::Format(&message, "%0"));
+  EXPECT_STREQ("Hello ()", CKxXlate::Format(&message, "K1"));
+  EXPECT_STREQ(" %1", CKxXlate::Format(&message, "%0 %1"));
 }
 
 TEST_F(Format, LastArgumentMayLackItsNul) {
