@@ -8,6 +8,7 @@ set(windows_exceptions
   XlateManagerOfDirectory.CapitalsComeFirst
   LangLoader.PassesOverAFileOfAnotherCase
   LanguageCache.AnswersAsTheFirstRequestWasSpelled
+  Kxxlate.BundlesMarksTheSecondSpellingOfALocale
   */LanguagePrecedence.AnswersFromTheMostSpecificFile/CodesAreFoundInCapitals
 
   # A backslash ends a directory's name and is never a part of it. WindowsSearch has tests of roots
@@ -20,6 +21,7 @@ set(windows_exceptions
   PropertiesFile.LinkToNothingIsReported
   XlateManagerOfDirectory.FileThatCannotBeOpenedIsRegistered
   XlateManagerOfDirectory.LinkToADirectoryIsADirectory
+  LangLoader.DoesNotLookBesideWhereALinkLeads
   LangLoader.FollowsLinksToFiles
   LangLoader.PassesOverALinkThatLeadsNowhere
 

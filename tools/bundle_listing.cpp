@@ -1,25 +1,49 @@
 #include "bundle_listing.h"
 
 #include "bundles/bundle_file_name.h"
+#include "bundles/bundle_manager.h"
 #include "bundles/resource_directory.h"
 #include "platform/directories.h"
 #include "platform/file_status.h"
 
 namespace {
 
-class Lister final : public CKxTraverseCallback {
+/// Stands for a translator: the registry is asked for files alone.
+struct NoTranslator {
+  void Release() {}
+};
+
+/// Registers files as the library does, and notes which of them serve their locales.
+class Lister final : public bnd::BundleManager<NoTranslator> {
  public:
-  explicit Lister(BundleListing& listing) : listing_(listing) {}
+  Lister(const std::string& directory, BundleListing& listing)
+      : BundleManager(directory), listing_(listing) {}
 
   bool OnEntry(const char* name, bool isDirectory) override {
     if (isDirectory) return true;
-    if (const auto parts = kx::SplitBundleFileName(name)) {
-      listing_[parts->bundle].insert(parts->locale);
+    const auto parts = kx::SplitBundleFileName(name);
+    if (!parts) return true;
+    if (parts->bundle.empty()) {
+      listing_.unserved.push_back({name, ""});
+      return true;
+    }
+    AddBundleFile(Root(), name, parts->bundle, parts->locale);
+    auto* entry = FindEntry(parts->bundle.c_str(), parts->locale.c_str());
+    const std::string server = entry == nullptr ? "" : NameOf(*entry);
+    if (server == name) {
+      listing_.bundles[parts->bundle].insert(parts->locale);
+    } else {
+      listing_.unserved.push_back({name, server});
     }
     return true;
   }
 
  private:
+  /// The name of the file behind an entry.
+  std::string NameOf(bnd::BundleBase<NoTranslator>& entry) const {
+    return entry.GetFile()->Path().substr(Root().size() + 1);
+  }
+
   BundleListing& listing_;
 };
 
@@ -27,7 +51,7 @@ class Lister final : public CKxTraverseCallback {
 
 BundleListing ListBundles(const std::string& directory) {
   BundleListing listing;
-  Lister lister(listing);
+  Lister lister(directory, listing);
   KxTraverseDirectory(directory.c_str(), &lister);
   return listing;
 }

@@ -4,11 +4,24 @@
 #include <map>
 #include <set>
 #include <string>
+#include <vector>
 
-/// The locales of each bundle of one directory; "" is a bundle's default file.
-using BundleListing = std::map<std::string, std::set<std::string>>;
+/// A bundle file whose texts nobody gets.
+struct UnservedFile {
+  std::string name;
+  std::string
+      servedBy;  ///< the file that its locale is served from; "" when its bundle has no name
+};
 
-/// Lists the bundle files of `directory` (UTF-8), by their names alone.
+/// The bundle files of one directory.
+struct BundleListing {
+  /// The locales of each bundle, as the names of the files that serve them spell them; "" is a
+  /// bundle's default.
+  std::map<std::string, std::set<std::string>> bundles;
+  std::vector<UnservedFile> unserved;
+};
+
+/// Lists the bundle files of `directory` (UTF-8), by their names alone and by the library's rules.
 BundleListing ListBundles(const std::string& directory);
 
 /// The directory that the library finds by itself in this process; "" when there is none.

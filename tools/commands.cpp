@@ -1,5 +1,6 @@
 #include "commands.h"
 
+#include <cstddef>
 #include <cstring>
 #include <iostream>
 #include <memory>
@@ -10,6 +11,8 @@
 #include "bundle_listing.h"
 
 namespace {
+
+constexpr std::size_t kMostFormatArguments = 16;  // CKxXlate::Format uses no more
 
 struct ReleaseTranslator {
   void operator()(CKxXlate* translator) const { translator->Release(); }
@@ -82,6 +85,10 @@ ExitCode Get(const Request& request) {
 }
 
 ExitCode Format(const Request& request) {
+  if (request.arguments.size() > kMostFormatArguments) {
+    return Fail(kCouldNotRun,
+                "a message takes at most " + std::to_string(kMostFormatArguments) + " arguments");
+  }
   Xlate message;
   message.bundleName = request.bundle;
   message.locale.Set(request.locale.c_str());
@@ -144,13 +151,18 @@ ExitCode Bundles(const Request& request) {
   const std::string directory =
       request.resources.empty() ? FoundResourceDirectory() : request.resources;
   const BundleListing listing = ListBundles(directory);
-  if (listing.empty()) return Fail(kNotFound, "no bundles found");
-  for (const auto& [bundle, locales] : listing) {
+  for (const auto& [bundle, locales] : listing.bundles) {
     std::cout << bundle << ':';
     for (const std::string& locale : locales) {
       std::cout << ' ' << (locale.empty() ? "(default)" : locale);
     }
     std::cout << '\n';
   }
-  return kFound;
+  for (const UnservedFile& file : listing.unserved) {
+    std::cout << "(not served) " << file.name << ": "
+              << (file.servedBy.empty() ? "a bundle without a name cannot be asked for"
+                                        : "its locale is served by " + file.servedBy)
+              << '\n';
+  }
+  return listing.bundles.empty() ? Fail(kNotFound, "no bundles found") : kFound;
 }

@@ -174,6 +174,45 @@ TEST_F(Kxxlate, BundlesListsTheirLocales) {
   ExpectRun(0, "agent: en fr fr_CA\nmenu: (default)\n", "", RunOnTexts({"bundles"}));
 }
 
+TEST_F(Kxxlate, BundlesMarksFilesThatNobodyGets) {
+  tree_.Write("odd/_fr.properties", "Hello=3\n");
+  tree_.Write("odd/.properties", "Hello=4\n");
+  tree_.Write("odd/x_DE_AT.properties", "Hello=5\n");
+  tree_.Write("odd/x_de-at.properties", "Hello=6\n");
+  ExpectRun(0,
+            "x: DE_AT\n"
+            "(not served) .properties: a bundle without a name cannot be asked for\n"
+            "(not served) _fr.properties: a bundle without a name cannot be asked for\n"
+            "(not served) x_de-at.properties: its locale is served by x_DE_AT.properties\n",
+            "", Run({"--resources", tree_.Path("odd"), "bundles"}));
+  ExpectRun(0, "5\n", "", Run({"--resources", tree_.Path("odd"), "get", "x", "de-at", "Hello"}));
+}
+
+TEST_F(Kxxlate, BundlesMarksTheSecondSpellingOfALocale) {
+  tree_.Write("odd/Msgs_FR.properties", "Hello=1\n");
+  tree_.Write("odd/Msgs_fr.properties", "Hello=2\n");
+  ExpectRun(0,
+            "Msgs: FR\n"
+            "(not served) Msgs_fr.properties: its locale is served by Msgs_FR.properties\n",
+            "", Run({"--resources", tree_.Path("odd"), "bundles"}));
+  ExpectRun(0, "1\n", "", Run({"--resources", tree_.Path("odd"), "get", "Msgs", "fr", "Hello"}));
+}
+
+TEST_F(Kxxlate, BundlesFindsNoneWhereNobodyCanAskForOne) {
+  tree_.Write("odd/_fr.properties", "Hello=1\n");
+  ExpectRun(1, "(not served) _fr.properties: a bundle without a name cannot be asked for\n",
+            "kxxlate: no bundles found\n", Run({"--resources", tree_.Path("odd"), "bundles"}));
+}
+
+TEST_F(Kxxlate, FormatRefusesMoreArgumentsThanAMessageTakes) {
+  std::vector<std::string> arguments = {"format", "agent", "fr", "Hello"};
+  arguments.insert(arguments.end(), 16, "x");
+  ExpectRun(0, "Bonjour, x (x, x, x, x, x, x, x, x, x, x, x, x, x, x, x)\n", "",
+            RunOnTexts(arguments));
+  arguments.emplace_back("x");
+  ExpectRun(2, "", "kxxlate: a message takes at most 16 arguments\n", RunOnTexts(arguments));
+}
+
 TEST_F(Kxxlate, UsesTheLibrarysOwnSearchWithoutAnOption) {
   tree_.Write("a/b/resources/tasks_ja.properties", "Open=Hiraku\n");
   ExpectRun(0, "Hiraku\n", "", Run({"get", "tasks", "ja", "Open"}));
