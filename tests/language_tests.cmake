@@ -1,6 +1,8 @@
 # The language side: translators of language files, their cache, and what hosts see of them.
 kxxlate_unit_test(language_test
+  core/held_language_test.cpp
   core/language_cache_test.cpp
+  lang/lang_file_place_test.cpp
   lang/lang_loader_test.cpp
   lang/real_kx_xlate_copy_test.cpp
   lang/real_kx_xlate_lookup_test.cpp
@@ -8,7 +10,9 @@ kxxlate_unit_test(language_test
   lang/real_kx_xlate_test.cpp
   scenarios/language_fallback_test.cpp)
 if(WIN32)
-  target_sources(language_test PRIVATE lang/lang_loader_windows_test.cpp)
+  target_sources(language_test PRIVATE
+    core/held_language_windows_test.cpp
+    lang/lang_loader_windows_test.cpp)
 endif()
 
 # Replaces operator new, so apart from all the others.

@@ -5,12 +5,15 @@ kxxlate_unit_test(search_test
   support/fake_machine.h)
 
 kxxlate_unit_test(log_test
+  log/held_log_test.cpp
   log/problem_sink_test.cpp
   log/translation_log_test.cpp
   log/translation_log_threads_test.cpp
   support/lasting_log.h)
 if(NOT WIN32)
-  target_sources(log_test PRIVATE log/translation_log_posix_test.cpp)
+  target_sources(log_test PRIVATE
+    log/translation_log_posix_test.cpp
+    log/untrusted_directory_posix_test.cpp)
 endif()
 
 kxxlate_unit_test(platform_test
@@ -19,16 +22,20 @@ kxxlate_unit_test(platform_test
   platform/executable_path_test.cpp
   platform/file_streams_test.cpp
   platform/files_test.cpp
+  platform/passing_failures_test.cpp
   platform/stream_bytes.h)
 if(WIN32)
   target_sources(platform_test PRIVATE
+    platform/file_place_windows_test.cpp
     platform/files_windows_test.cpp
+    platform/passing_failures_windows_test.cpp
     platform/wide_path_windows_test.cpp)
 else()
   target_sources(platform_test PRIVATE
     platform/file_effects_posix_test.cpp
     platform/file_streams_posix_test.cpp
-    platform/files_posix_test.cpp)
+    platform/files_posix_test.cpp
+    platform/passing_failures_posix_test.cpp)
 endif()
 
 kxxlate_host_test(process_test
@@ -40,7 +47,9 @@ kxxlate_host_test(process_test
 if(WIN32)
   target_sources(process_test PRIVATE process/windows_search_test.cpp)
 else()
-  target_sources(process_test PRIVATE process/resource_search_posix_test.cpp)
+  target_sources(process_test PRIVATE
+    process/closed_streams_posix_test.cpp
+    process/resource_search_posix_test.cpp)
 endif()
 add_dependencies(process_test unloading_host)
 target_compile_definitions(process_test PRIVATE

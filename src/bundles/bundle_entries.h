@@ -67,7 +67,7 @@ class BundleFile final : public BundleBase<T> {
 
   /// The translator of this file. The first call makes it by `make(*this)`, whose result carries
   /// the reference that this entry keeps; other threads wait for it meanwhile. Later calls take no
-  /// lock. If `make` throws, the next call tries again.
+  /// lock. If `make` throws or answers null, nothing is kept and the next call tries again.
   template <class Make>
   T* Translator(const Make& make) {
     if (T* made = translator_.load(std::memory_order_acquire)) return made;

@@ -10,6 +10,7 @@
 #include "bundles/bundle.h"
 #include "bundles/bundle_entries.h"
 #include "platform/directories.h"
+#include "platform/file_status.h"
 #include "platform/key_hash.h"
 
 namespace bnd {
@@ -30,7 +31,9 @@ class BundleManager : public CKxTraverseCallback {
 
   void AddBundleFile(const std::string& root, const std::string& fileName,
                      const std::string& bundle, const std::string& locale) {
-    FindOrAddBundle(bundle).AddFile(locale, root + '/' + fileName);
+    std::string path = root + '/' + fileName;
+    if (KxLeavesTheMachine(root, path)) return;
+    FindOrAddBundle(bundle).AddFile(locale, std::move(path));
   }
 
   /// Gives each bundle its default. To be called once, after the traversal.

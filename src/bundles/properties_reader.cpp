@@ -131,17 +131,20 @@ void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTa
   PropertiesReader(fileName, stream, table, keys, problems).Read();
 }
 
-bool ReadPropertiesFile(const char* fileName, PropertyTable& table) {
+bool ReadPropertiesFile(const char* fileName, PropertyTable& table, bool* isSettled) {
+  if (isSettled != nullptr) *isSettled = true;
   if (fileName == nullptr) return false;
   StandardErrorSink problems;
   CKxIfstream stream;
   KxIfstreamOpen(stream, fileName);
-  if (stream.fail()) {
+  const bool isOpen = !stream.fail();
+  if (isOpen) {
+    ReadPropertiesStream(fileName, stream, table, ProcessKeyPool(), problems);
+  } else {
     problems.Line(CannotOpenFile(fileName));
-    return false;
   }
-  ReadPropertiesStream(fileName, stream, table, ProcessKeyPool(), problems);
-  return true;
+  if (isSettled != nullptr) *isSettled = !stream.MayWorkLater();
+  return isOpen;
 }
 
 }  // namespace kx

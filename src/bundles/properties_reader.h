@@ -41,9 +41,11 @@ void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTa
 
 /// Reads the file `fileName` (UTF-8) into `table`, with the keys of this process.
 ///
+/// @param isSettled  if not null, receives false when the file exists but could not be opened or
+///                   read to its end for a reason that passes, else true
 /// @return false when the name is null or the file cannot be opened (which is told to standard
 ///         error, like all problems), else true, also when lines were skipped
-bool ReadPropertiesFile(const char* fileName, PropertyTable& table);
+bool ReadPropertiesFile(const char* fileName, PropertyTable& table, bool* isSettled = nullptr);
 
 }  // namespace kx
 

@@ -14,7 +14,7 @@
 
 PropertiesXlate::PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner) : owner_(owner) {
   kx::SplitLocale(owner->Locale(), language_, country_);
-  kx::ReadPropertiesFile(owner->Path().c_str(), texts_);
+  kx::ReadPropertiesFile(owner->Path().c_str(), texts_, &isSettled_);
   loadTime_ = std::time(nullptr);
 }
 
@@ -96,8 +96,17 @@ CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle, c
   if (manager == nullptr) return nullptr;
   bnd::BundleBase<CKxXlate>* entry = manager->FindEntry(bundle, locale);
   if (entry == nullptr) return nullptr;
-  CKxXlate* translator = entry->GetFile()->Translator(
-      [](const bnd::BundleFile<CKxXlate>& file) { return new PropertiesXlate(&file); });
+  // Made of a file that could not be read for a reason that passes: for this caller alone, who gets
+  // its first reference. The next request reads the file again.
+  PropertiesXlate* unsettled = nullptr;
+  const auto make = [&unsettled](const bnd::BundleFile<CKxXlate>& file) -> CKxXlate* {
+    auto* made = new PropertiesXlate(&file);
+    if (made->IsSettled()) return made;
+    unsettled = made;
+    return nullptr;
+  };
+  CKxXlate* translator = entry->GetFile()->Translator(make);
+  if (translator == nullptr) return unsettled;
   translator->AddRef();  // for the caller
   return translator;
 }

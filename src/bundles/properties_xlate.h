@@ -22,7 +22,8 @@ class XlateManager;
 ///
 /// The first reference belongs to the bundle file that the translator was made for; each caller
 /// gets one more. Since bundle files live as long as the process, so do their translators, and a
-/// file that changes on disk is not read again.
+/// file that changes on disk is not read again. Only one that is not settled belongs to its caller
+/// alone.
 class PropertiesXlate final : public CKxXlate {
  public:
   /// Reads the owner's file; one that cannot be opened gives no texts. Problems go to standard
@@ -55,6 +56,10 @@ class PropertiesXlate final : public CKxXlate {
   /// When the file was read, in seconds since 1970-01-01 00:00 UTC.
   std::int64_t LoadTime() const noexcept { return loadTime_; }
 
+  /// Whether the file was read whole or cannot be read at all. Otherwise it could not be opened or
+  /// read to its end for a reason that passes, and reading it again may give more.
+  bool IsSettled() const noexcept { return isSettled_; }
+
   /// Writes all texts to standard output, in no particular order; to be called from a debugger.
   void DumpTable() const;
 
@@ -67,6 +72,7 @@ class PropertiesXlate final : public CKxXlate {
   kx::PropertyTable texts_;
   std::string language_;
   std::string country_;
+  bool isSettled_ = true;
   std::int64_t loadTime_;
 
   // Guarded: the keys that were asked for in vain, so that each is logged once.

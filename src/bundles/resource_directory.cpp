@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/caller_trust.h"
 #include "platform/environment.h"
 #include "platform/executable_path.h"
 #include "platform/file_status.h"
@@ -48,6 +49,7 @@ bool SearchEnvironment(SearchSources& sources, const char* subdirectory, std::st
 
 bool SearchWorkingDirectory(SearchSources& sources, const char* subdirectory,
                             std::string& directory, std::string& root) {
+  if (!sources.TrustsWorkingDirectory()) return false;
   directory.assign("./").append(subdirectory);
   if (!sources.IsDirectory(directory.c_str())) return false;
   root = ".";
@@ -59,6 +61,7 @@ class ThisMachine final : public SearchSources {
   const char* ExecutablePath() override { return executable_.Path(); }
   const char* Environment(const char* name) override { return environment_.set(name); }
   bool IsDirectory(const char* path) override { return KxIsDirectory(path); }
+  bool TrustsWorkingDirectory() override { return KxTrustsWorkingDirectory(); }
 
  private:
   CKxExecutablePath executable_;

@@ -19,6 +19,9 @@ class SearchSources {
 
   virtual bool IsDirectory(const char* path) = 0;
 
+  /// Whether the working directory may be searched: see KxTrustsWorkingDirectory.
+  virtual bool TrustsWorkingDirectory() = 0;
+
  protected:
   ~SearchSources() = default;
 };
@@ -31,8 +34,8 @@ bool IsDirectoryUnder(SearchSources& sources, const char* base, const char* subd
                       std::string& joined);
 
 /// Looks for a directory that holds `subdirectory`: first the executable's own directory and the
-/// three above it, then five environment variables, last the working directory. "/" and "\" both
-/// count as separators on every system.
+/// three above it, then five environment variables, last the working directory, if that is trusted.
+/// "/" and "\" both count as separators on every system.
 ///
 /// The ancestors of the executable come before the environment on purpose, so that an installed
 /// product finds its own files whatever the environment says.

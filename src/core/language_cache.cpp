@@ -54,15 +54,21 @@ CRealKxXlate* CRealKxXlateCache::FindOrLoad(const char* name, const char* langua
   const std::string key = CacheKey(name, language, region);
   const auto cached = translators_.find(key);
   if (cached == translators_.end()) return Load(key, name, language, region);
-  if (cached->second->IsStale()) {
-    // The new one first: when there is no memory for it, the old one stays in use. And it is kept
-    // whether or not it found a file: only a language never read before falls back to English.
-    auto* fresh = new CRealKxXlate(context_, name, language, region);
-    fresh->AddRef();  // for the cache
-    std::exchange(cached->second, fresh)->Release();
-  }
+  if (cached->second->IsStale()) Reload(cached->second, name, language, region);
   cached->second->AddRef();  // for the caller
   return cached->second;
+}
+
+void CRealKxXlateCache::Reload(CRealKxXlate*& cached, const char* name, const char* language,
+                               const char* region) {
+  // The new one first: when there is no memory for it, the old one stays in use. And it is kept
+  // whether or not it found a file: only a language never read before falls back to English.
+  NewTranslator fresh(new CRealKxXlate(context_, name, language, region));
+  // A file that its writer still keeps to itself: the old texts serve until the next request tries
+  // again.
+  if (!fresh->IsSettled()) return;
+  fresh->AddRef();  // for the cache
+  std::exchange(cached, fresh.release())->Release();
 }
 
 // A language without files is not kept: the next request must look at the disk again, since the
@@ -71,8 +77,11 @@ CRealKxXlate* CRealKxXlateCache::Load(const std::string& key, const char* name,
                                       const char* language, const char* region) {
   NewTranslator translator(new CRealKxXlate(context_, name, language, region));
   if (!translator->AnyFileFound() && !EqualIgnoringAsciiCase(language, kEnglish)) return nullptr;
-  translators_.emplace(key, translator.get());
-  translator->AddRef();  // for the cache
+  // What could be read is better than nothing, but only for this caller.
+  if (translator->IsSettled()) {
+    translators_.emplace(key, translator.get());
+    translator->AddRef();  // for the cache
+  }
   translator->AddRef();  // for the caller
   return translator.release();
 }

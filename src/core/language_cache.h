@@ -25,7 +25,8 @@ class CRealKxXlateCache {
   virtual ~CRealKxXlateCache() = default;
 
   /// The translator of a component for a language, with a reference for the caller; read anew when
-  /// one of its files changed, even if no file is left by then.
+  /// one of its files changed, even if no file is left by then. A translator for which a file could
+  /// not be read for a reason that passes is not kept, nor does it replace one that was.
   ///
   /// @param name, language  not null
   /// @param region          null or "" for none
@@ -40,6 +41,7 @@ class CRealKxXlateCache {
  private:
   CRealKxXlate* Load(const std::string& key, const char* name, const char* language,
                      const char* region);
+  void Reload(CRealKxXlate*& cached, const char* name, const char* language, const char* region);
 
   const LanguageContext context_;
   std::map<std::string, CRealKxXlate*, LessIgnoringAsciiCase> translators_;

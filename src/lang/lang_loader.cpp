@@ -22,12 +22,15 @@ class LogSink final : public ProblemSink {
   const std::string& root_;
 };
 
-/// Whether the path has become that of another machine, though the directory, without the separator
-/// behind it, is on this one. When no directory was found it is nothing, and a language may be
-/// empty or begin with a separator.
-bool LeavesTheMachine(const std::string& directory, const std::string& path) {
-  const std::string place = directory.substr(0, directory.size() - 1);
-  return KxIsNetworkPath(path.c_str()) && !KxIsNetworkPath(place.c_str());
+/// Whether the candidate may be looked for: its language, region and name may come from a
+/// stranger's request.
+bool IsWithin(const std::string& directory, const LangFile& file, const std::string& path) {
+  if (!StaysInDirectory(file.language) || !StaysInDirectory(file.country)) return false;
+  if (!StaysInDirectory(file.name)) return false;
+  // When no directory was found it is nothing but the separator behind it, and a language may be
+  // empty or begin with another one.
+  const std::string_view withoutSeparator(directory.data(), directory.size() - 1);
+  return !KxLeavesTheMachine(withoutSeparator, path);
 }
 
 }  // namespace
@@ -39,40 +42,45 @@ std::string LangFileName(const std::string& language, const std::string& country
   return relative.append("/").append(name.empty() ? "(Common)" : name).append(".lang");
 }
 
-bool StaysInDirectory(const std::string& relative) {
-  std::string_view rest = relative;
-  int depth = 0;
-  while (!rest.empty()) {
-    const std::size_t end = rest.find_first_of("/\\");
-    const std::string_view part = rest.substr(0, end);
-    if (part == "..") {
-      if (--depth < 0) return false;
-    } else if (!part.empty() && part != ".") {
-      ++depth;
-    }
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+bool StaysInDirectory(std::string_view part) {
+  for (;;) {
+    const std::size_t end = part.find_first_of("/\\");
+    if (!KxIsPlainComponent(part.substr(0, end))) return false;
+    if (end == std::string_view::npos) return true;
+    part.remove_prefix(end + 1);
   }
-  return true;
 }
 
-bool LoadLangFile(const LanguageContext& context, const std::string& relative,
-                  LanguageContents& contents, LangCandidate& candidate) {
+bool LangCandidate::IsStale() const {
+  if (path.empty() || status.modified == 0) return false;
+  KxFileStatus now;
+  if (KxStat(path.c_str(), &now) != 0) return true;
+  // The size as well: a file may be rewritten within the finest unit of time that the system gives,
+  // and one that is still being written grows.
+  return now.modified != status.modified || now.modifiedNanoseconds != status.modifiedNanoseconds ||
+         now.size != status.size;
+}
+
+bool LoadLangFile(const LanguageContext& context, const LangFile& file, LanguageContents& contents,
+                  LangCandidate& candidate) {
+  const std::string relative = LangFileName(file.language, file.country, file.name);
   candidate.path = context.paths.directory + relative;
-  // Language, region and name may come from a stranger's request.
-  if (!StaysInDirectory(relative) || LeavesTheMachine(context.paths.directory, candidate.path))
-    return false;
+  if (!IsWithin(context.paths.directory, file, candidate.path)) return false;
   // Asked before the file is opened: of a file that is replaced meanwhile the old time is then kept
   // with the new text, and the next request reads it again.
   KxFileStatus status;
   const bool known = KxStat(candidate.path.c_str(), &status) == 0;
   CKxIfstream stream;
   KxIfstreamOpen(stream, candidate.path.c_str());
+  candidate.isUnsettled = stream.MayWorkLater();
   if (stream.fail()) return false;
   if (!known) KxStat(candidate.path.c_str(), &status);
-  candidate.modified = status.modified;
+  candidate.status = status;
   LogSink problems(context.log, context.paths.root);
   LangFileParser parser(relative, problems, context.strings);
-  return ReadLangFile(parser, stream, contents);
+  ReadLangFile(parser, stream, contents);
+  candidate.isUnsettled = stream.MayWorkLater();
+  return true;
 }
 
 }  // namespace kx

@@ -3,18 +3,24 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "lang/language_contents.h"
 #include "lang/language_paths.h"
+#include "platform/file_status.h"
 
 namespace kx {
 
 /// A file that a language may be read from.
 struct LangCandidate {
-  std::string path;           ///< also when there is no such file; empty when it was not looked for
-  std::int64_t modified = 0;  ///< its last change, in seconds, when it was read; 0 when it was not
+  std::string path;     ///< also when there is no such file; empty when it was not looked for
+  KxFileStatus status;  ///< before it was opened; a time of 0 when it was not read
+  /// It exists, but could not be opened or read to its end, for a reason that passes.
+  bool isUnsettled = false;
+
+  /// Whether the file that was read has changed or vanished since.
+  bool IsStale() const;
 };
 
 /// The common file and the named file of the language, then those of the language in the country.
@@ -28,16 +34,26 @@ using LangCandidates = std::array<LangCandidate, kLangCandidates>;
 std::string LangFileName(const std::string& language, const std::string& country,
                          const std::string& name);
 
-/// Whether `relative` stays in the directory that it is relative to, whatever its ".." do. "/" and
-/// "\" both count as separators.
-bool StaysInDirectory(const std::string& relative);
+/// Whether a language, region or component's name can be a part of a path without leading anywhere
+/// but below the directory that it is joined to: see KxIsPlainComponent. "/" and "\" both separate
+/// its components.
+///
+/// To count how often ".." leads up and other names down would not do: a name may be that of a link
+/// to another place, beside which ".." then leads.
+bool StaysInDirectory(std::string_view part);
+
+/// Which file a candidate is: see LangFileName.
+struct LangFile {
+  const std::string& language;
+  const std::string& country;
+  const std::string& name;
+};
 
 /// Reads one candidate into `contents` and records it in `candidate`.
 ///
-/// @param relative  its name within the language directory, and in problem lines
-/// @return whether there is a regular file of that name, within the directory, that can be read
-bool LoadLangFile(const LanguageContext& context, const std::string& relative,
-                  LanguageContents& contents, LangCandidate& candidate);
+/// @return whether there is a regular file of that name, within the directory, that can be opened
+bool LoadLangFile(const LanguageContext& context, const LangFile& file, LanguageContents& contents,
+                  LangCandidate& candidate);
 
 }  // namespace kx
 

@@ -1,11 +1,11 @@
 #include "lang/real_kx_xlate.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "format/caller_buffer.h"
 #include "lang/lang_problems.h"
 #include "log/translation_log.h"
-#include "platform/file_status.h"
 #include "platform/given_text.h"
 #include "platform/utf8_text.h"
 
@@ -40,8 +40,8 @@ CRealKxXlate::CRealKxXlate(const kx::LanguageContext& context, const char* name,
 void CRealKxXlate::LoadFiles(const kx::LanguageContext& context, const char* country) {
   std::size_t next = 0;
   const auto load = [&](const std::string& name) {
-    const std::string relative = kx::LangFileName(languageCode_, countryCode_, name);
-    anyFileFound_ |= kx::LoadLangFile(context, relative, contents_, candidates_[next++]);
+    const kx::LangFile file = {languageCode_, countryCode_, name};
+    anyFileFound_ |= kx::LoadLangFile(context, file, contents_, candidates_[next++]);
   };
   // Each later file overrides the ones before it, so the most specific comes last.
   load("");
@@ -113,13 +113,13 @@ bool CRealKxXlate::GetPrompt(char* dst, KxSize size, const char* key, const char
 const char* CRealKxXlate::GetDisplayName() { return displayName_.c_str(); }
 
 bool CRealKxXlate::IsStale() const {
-  for (const kx::LangCandidate& candidate : candidates_) {
-    if (candidate.path.empty() || candidate.modified == 0) continue;
-    KxFileStatus status;
-    if (KxStat(candidate.path.c_str(), &status) != 0) return true;
-    if (status.modified != candidate.modified) return true;
-  }
-  return false;
+  return std::any_of(candidates_.begin(), candidates_.end(),
+                     [](const kx::LangCandidate& candidate) { return candidate.IsStale(); });
+}
+
+bool CRealKxXlate::IsSettled() const {
+  return std::none_of(candidates_.begin(), candidates_.end(),
+                      [](const kx::LangCandidate& candidate) { return candidate.isUnsettled; });
 }
 
 const char* CRealKxXlate::FindKey(const kx::LanguageTable& contents, Table table, const char* key) {

@@ -66,6 +66,10 @@ class CRealKxXlate final : public CKxXlate {
   /// looked for: it is noticed only when the language is read again for another reason.
   bool IsStale() const;
 
+  /// Whether each file was read whole or is not there. Otherwise one could not be opened or read to
+  /// its end for a reason that passes, and reading the language again may give more.
+  bool IsSettled() const;
+
  private:
   /// Keys that were asked for in vain. What was loaded never changes, so that hits need no lock.
   using MissingKeys = std::unordered_set<std::string, kx::KeyHash, kx::KeyEqual>;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr unsigned kEveryPermission = 0777;
 
+/// Empty when no file may be opened there.
 std::string LogFilePath(const std::string& root) {
   const std::string directory = root.empty() ? "." : root;
   std::string path = directory;
@@ -21,14 +22,8 @@ std::string LogFilePath(const std::string& root) {
   if (!KxIsDirectory(path.c_str()) && KxMakeDir(path.c_str(), kEveryPermission) != 0) {
     path = directory;
   }
-  return path + "/translate.log";
-}
-
-std::unique_ptr<std::ostream> OpenLogFile(const std::string& root) {
-  auto file = std::make_unique<CKxOfstream>();
-  KxOfstreamOpen(*file, LogFilePath(root).c_str());
-  if (file->fail()) return std::make_unique<StandardOutputStream>();
-  return file;
+  path += "/translate.log";
+  return KxLeavesTheMachine(directory, path) ? std::string() : path;
 }
 
 void AppendOnOneLine(std::string& line, std::string_view piece) {
@@ -59,8 +54,20 @@ void TranslationLog::WriteLine(const std::string& root,
 }
 
 std::ostream& TranslationLog::OpenTranslationLog(const std::string& root) {
-  if (stream_ == nullptr) stream_ = OpenLogFile(root).release();
+  if (stream_ != nullptr) return *stream_;
+  const bool mayOpen = trustsWorkingDirectory_ || root.starts_with('/');
+  if (path_.empty() && mayOpen) path_ = LogFilePath(root);
+  auto file = std::make_unique<CKxOfstream>();
+  KxOfstreamOpen(*file, path_.c_str());
+  // Somebody looks at the log with a program that keeps it to itself, or the like.
+  if (file->fail() && file->MayWorkLater()) return StandardOutput();
+  stream_ = file->fail() ? &StandardOutput() : file.release();
   return *stream_;
+}
+
+std::ostream& TranslationLog::StandardOutput() {
+  if (standardOutput_ == nullptr) standardOutput_ = new StandardOutputStream;
+  return *standardOutput_;
 }
 
 }  // namespace kx

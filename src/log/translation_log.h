@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/caller_trust.h"
 #include "platform/critical_section.h"
 #include "platform/thread_annotations.h"
 
@@ -15,7 +16,11 @@ namespace kx {
 ///
 /// The first line decides where the file lies, for all lines that follow: in the directory "log"
 /// under the first writer's root, which is made when missing; in the root itself when that cannot
-/// be done; and when no file can be opened there, all lines go to standard output.
+/// be done; and when no file can be opened there, all lines go to standard output. When the file
+/// cannot be opened for a reason that passes, only this line does, and the next one tries again.
+///
+/// In a program that runs with more rights than its caller no log is opened below the working
+/// directory, which the caller chose: the lines go to standard output.
 ///
 /// The stream stays open for the rest of the process: it is neither closed nor freed here.
 ///
@@ -23,7 +28,9 @@ namespace kx {
 /// innermost of the library: nothing else is locked while it is held.
 class TranslationLog {
  public:
-  TranslationLog() = default;
+  /// @param trustsWorkingDirectory  whether a log may lie below it: see KxTrustsWorkingDirectory
+  explicit TranslationLog(bool trustsWorkingDirectory = KxTrustsWorkingDirectory())
+      : trustsWorkingDirectory_(trustsWorkingDirectory) {}
   TranslationLog(const TranslationLog&) = delete;
   TranslationLog& operator=(const TranslationLog&) = delete;
 
@@ -39,9 +46,14 @@ class TranslationLog {
 
  private:
   std::ostream& OpenTranslationLog(const std::string& root) KX_REQUIRES(lock_);
+  std::ostream& StandardOutput() KX_REQUIRES(lock_);
+
+  const bool trustsWorkingDirectory_;
 
   CriticalSection lock_;
   std::ostream* stream_ KX_GUARDED_BY(lock_) = nullptr;
+  std::ostream* standardOutput_ KX_GUARDED_BY(lock_) = nullptr;
+  std::string path_ KX_GUARDED_BY(lock_);
 };
 
 /// The log of this process. Lives in core/process_state.cpp.

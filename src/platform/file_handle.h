@@ -11,16 +11,34 @@ using FileHandle = std::intptr_t;
 
 constexpr FileHandle kNoFile = -1;
 
-/// Opens the regular file `path` (UTF-8) for reading. kNoFile for anything that is not a regular
-/// file, such as a pipe, a device or a directory; never waits for another process.
-FileHandle OpenRegularFile(const char* path);
+/// What came of opening a file.
+struct OpenedFile {
+  FileHandle file = kNoFile;
+  /// Not open, for a reason that passes: another program keeps the file to itself, too many files
+  /// are open, or there is no memory. A file that is absent or forbidden is no such case.
+  bool mayOpenLater = false;
+};
 
-/// Opens `path` (UTF-8) for writing at its end and creates it when missing; kNoFile when that is
-/// not possible or it is a pipe. Never waits for another process.
-FileHandle OpenForAppending(const char* path);
+/// What came of reading a piece of a file.
+struct FileBlock {
+  std::size_t size = 0;  ///< bytes read; 0 at the end of the file and when reading failed
+  bool failed = false;
+};
 
-/// Reads up to `size` bytes. 0 at the end of the file and when reading fails.
-std::size_t ReadFileBlock(FileHandle file, char* block, std::size_t size);
+// Both open nothing that would wait for another process, but ask for up to a tenth of a second
+// again for a file that another program keeps to itself: editors and installers do so while they
+// write. And neither takes the place of a standard stream that the host has closed, since what the
+// host or the library prints would land in the file.
+
+/// Opens the regular file `path` (UTF-8) for reading; nothing that is not a regular file, such as a
+/// pipe, a device or a directory.
+OpenedFile OpenRegularFile(const char* path);
+
+/// Opens `path` (UTF-8) for writing at its end and creates it when missing; no pipe.
+OpenedFile OpenForAppending(const char* path);
+
+/// Reads up to `size` bytes.
+FileBlock ReadFileBlock(FileHandle file, char* block, std::size_t size);
 
 /// Writes `size` bytes, or as many as is possible; answers how many.
 std::size_t WriteFileBlock(FileHandle file, const char* block, std::size_t size);

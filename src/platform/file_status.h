@@ -2,11 +2,14 @@
 #define KX_PLATFORM_FILE_STATUS_H
 
 #include <cstdint>
+#include <string_view>
 
 /// What the library needs to know of a file or directory.
 struct KxFileStatus {
   std::int64_t modified = 0;  ///< last change, in whole seconds since 1970-01-01 00:00 UTC
-  std::uint32_t mode = 0;     ///< kind bits, the same on every platform; see kKxModeDirectory
+  std::uint32_t modifiedNanoseconds = 0;  ///< the rest of it, to the finest unit the system gives
+  std::uint64_t size = 0;                 ///< in bytes
+  std::uint32_t mode = 0;  ///< kind bits, the same on every platform; see kKxModeDirectory
 };
 
 /// Bit of KxFileStatus::mode that says "directory".
@@ -25,8 +28,19 @@ int KxStat(const char* path, KxFileStatus* status);
 /// Whether `path` names a directory that can be looked at.
 bool KxIsDirectory(const char* path);
 
-/// Whether the system takes `path` for a place on another machine or a device: on Windows one that
-/// begins with two separators; nowhere else any.
-bool KxIsNetworkPath(const char* path);
+/// Whether the system takes `path`, which was made from `directory` and more, for a place on
+/// another machine or a device, though the directory is on this one. On Windows a path that begins
+/// with two separators is such a place: a lone "/" and a file's name joined by a separator make
+/// one. Nowhere else any is.
+///
+/// @param directory  without the separator that joins; may be ""
+bool KxLeavesTheMachine(std::string_view directory, std::string_view path);
+
+/// Whether `component`, a part of a path between two separators, names what it says: an entry of
+/// the directory before it, and no other spelling of one. ".." leads out of the directory. Windows
+/// drops dots and blanks at a name's end, and ":" is a drive's or a hidden stream's there.
+///
+/// To be asked of what strangers send, before a path is made of it.
+bool KxIsPlainComponent(std::string_view component);
 
 #endif  // KX_PLATFORM_FILE_STATUS_H

@@ -5,10 +5,14 @@
 int KxStat(const char* path, KxFileStatus* status) {
   struct stat found;
   if (::stat(path, &found) != 0) return -1;
-  status->modified = found.st_mtime;
+  status->modified = found.st_mtim.tv_sec;
+  status->modifiedNanoseconds = static_cast<std::uint32_t>(found.st_mtim.tv_nsec);
+  status->size = static_cast<std::uint64_t>(found.st_size);
   // Block devices carry the directory's bit too (they are 0x6000), hence the test of the kind.
   status->mode = S_ISDIR(found.st_mode) ? kKxModeDirectory : 0;
   return 0;
 }
 
-bool KxIsNetworkPath(const char* /*path*/) { return false; }
+bool KxLeavesTheMachine(std::string_view /*directory*/, std::string_view /*path*/) { return false; }
+
+bool KxIsPlainComponent(std::string_view component) { return component != ".."; }

@@ -14,15 +14,18 @@ FileInputBuffer::~FileInputBuffer() {
 bool FileInputBuffer::Open(const char* path) {
   // Before the file is opened, so that a failed allocation leaves nothing open.
   block_.resize(kBlockBytes);
-  file_ = OpenRegularFile(path);
+  const OpenedFile opened = OpenRegularFile(path);
+  file_ = opened.file;
+  mayWorkLater_ = opened.mayOpenLater;
   return file_ != kNoFile;
 }
 
 FileInputBuffer::int_type FileInputBuffer::underflow() {
-  const std::size_t count =
-      file_ == kNoFile ? 0 : ReadFileBlock(file_, block_.data(), block_.size());
-  if (count == 0) return traits_type::eof();
-  setg(block_.data(), block_.data(), block_.data() + count);
+  if (file_ == kNoFile) return traits_type::eof();
+  const FileBlock read = ReadFileBlock(file_, block_.data(), block_.size());
+  mayWorkLater_ = mayWorkLater_ || read.failed;
+  if (read.size == 0) return traits_type::eof();
+  setg(block_.data(), block_.data(), block_.data() + read.size);
   return traits_type::to_int_type(block_.front());
 }
 
@@ -31,7 +34,9 @@ FileOutputBuffer::~FileOutputBuffer() {
 }
 
 bool FileOutputBuffer::Open(const char* path) {
-  file_ = OpenForAppending(path);
+  const OpenedFile opened = OpenForAppending(path);
+  file_ = opened.file;
+  mayWorkLater_ = opened.mayOpenLater;
   return file_ != kNoFile;
 }
 

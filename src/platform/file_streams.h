@@ -14,7 +14,7 @@
 
 namespace kx {
 
-/// Reads a file in large blocks. A read error counts as the end of the file.
+/// Reads a file in large blocks. A read error counts as the end of the file, but is remembered.
 class FileInputBuffer final : public std::streambuf {
  public:
   FileInputBuffer() = default;
@@ -23,12 +23,14 @@ class FileInputBuffer final : public std::streambuf {
   ~FileInputBuffer() override;
 
   bool Open(const char* path);
+  bool MayWorkLater() const noexcept { return mayWorkLater_; }
 
  protected:
   int_type underflow() override;
 
  private:
   FileHandle file_ = kNoFile;
+  bool mayWorkLater_ = false;
   std::vector<char> block_;
 };
 
@@ -42,6 +44,7 @@ class FileOutputBuffer final : public std::streambuf {
   ~FileOutputBuffer() override;
 
   bool Open(const char* path);
+  bool MayWorkLater() const noexcept { return mayWorkLater_; }
 
  protected:
   std::streamsize xsputn(const char* text, std::streamsize size) override;
@@ -51,6 +54,7 @@ class FileOutputBuffer final : public std::streambuf {
   std::size_t Write(const char* text, std::size_t size);
 
   FileHandle file_ = kNoFile;
+  bool mayWorkLater_ = false;
   bool isCut_ = false;
 };
 
@@ -61,6 +65,10 @@ class CKxIfstream final : public std::istream {
  public:
   CKxIfstream() : std::istream(nullptr) { init(&buffer_); }
 
+  /// Whether there is a file whose text this stream has not given, or not to its end, for a reason
+  /// that passes: see OpenedFile. Every read that fails half-way counts as one.
+  bool MayWorkLater() const noexcept { return buffer_.MayWorkLater(); }
+
  private:
   friend void KxIfstreamOpen(CKxIfstream& stream, const char* path);
   kx::FileInputBuffer buffer_;
@@ -70,6 +78,9 @@ class CKxIfstream final : public std::istream {
 class CKxOfstream final : public std::ostream {
  public:
   CKxOfstream() : std::ostream(nullptr) { init(&buffer_); }
+
+  /// Whether the file could not be opened for a reason that passes: see OpenedFile.
+  bool MayWorkLater() const noexcept { return buffer_.MayWorkLater(); }
 
  private:
   friend void KxOfstreamOpen(CKxOfstream& stream, const char* path);

@@ -277,4 +277,17 @@ INSTANTIATE_TEST_SUITE_P(Environment, ResourceDirectorySearch, testing::ValuesIn
 INSTANTIATE_TEST_SUITE_P(Subdirectory, ResourceDirectorySearch,
                          testing::ValuesIn(kSubdirectoryCases), kCaseName);
 
+TEST(ResourceDirectorySearchOfAProgramWithMoreRights, DoesNotAskForTheWorkingDirectory) {
+  FakeMachine machine;
+  machine.trustsWorkingDirectory = false;
+  machine.executable = "/a/x";
+  machine.directories = {"./resources"};
+  std::string directory = "left over";
+  std::string root;
+  EXPECT_FALSE(kx::FindResourceDirectory(machine, "resources", directory, root));
+  EXPECT_EQ("", directory);
+  EXPECT_EQ("", root);
+  EXPECT_EQ((Paths{"/a/resources"}), machine.pathsAsked);
+}
+
 }  // namespace

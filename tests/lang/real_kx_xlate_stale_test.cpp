@@ -11,6 +11,7 @@
 #include "lang/interned_strings.h"
 #include "lang/real_kx_xlate.h"
 #include "support/lasting_log.h"
+#include "support/modified_time.h"
 #include "support/temp_tree.h"
 
 namespace {
@@ -22,14 +23,11 @@ struct ReleaseTranslator {
 using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
 
 void SetModified(const TempTree& tree, const std::string& file, std::int64_t milliseconds) {
-  using std::filesystem::file_time_type;
-  const std::chrono::sys_time<std::chrono::nanoseconds> time{
-      std::chrono::milliseconds(milliseconds)};
-  std::filesystem::last_write_time(PathFromUtf8(tree.Path("lang/" + file)),
-                                   file_time_type::clock::from_sys(time));
+  SetModifiedTime(tree.Path("lang/" + file), std::chrono::milliseconds(milliseconds));
 }
 
 constexpr std::int64_t kBefore = 1000000500;
+const std::string kBytes = "Name Whole\n\nKey K\nValue v\n";
 
 struct StaleCase {
   const char* name;
@@ -59,7 +57,7 @@ class StaleTranslator : public testing::TestWithParam<StaleCase> {
 TEST_P(StaleTranslator, IsRecognised) {
   const StaleCase& c = GetParam();
   for (const std::string& file : c.files) {
-    tree_.Write("lang/" + file, "Name Whole\n\nKey K\nValue v\n");
+    tree_.Write("lang/" + file, kBytes);
     SetModified(tree_, file, c.modified);
   }
   const Held translator = Load();
@@ -79,11 +77,16 @@ std::function<void(const TempTree&)> Remove(const std::string& file) {
   };
 }
 
-std::function<void(const TempTree&)> Create(const std::string& file, std::int64_t milliseconds) {
+std::function<void(const TempTree&)> Write(const std::string& file, const std::string& bytes,
+                                           std::int64_t milliseconds) {
   return [=](const TempTree& tree) {
-    tree.Write("lang/" + file, "Name Other\n");
+    tree.Write("lang/" + file, bytes);
     SetModified(tree, file, milliseconds);
   };
+}
+
+std::function<void(const TempTree&)> Create(const std::string& file, std::int64_t milliseconds) {
+  return Write(file, "Name Other\n", milliseconds);
 }
 
 const std::vector<std::string> kAllFiles = {"FR/(Common).lang", "FR/agent.lang",
@@ -97,12 +100,21 @@ const StaleCase kStaleCases[] = {
     {"FourthTouched", kAllFiles, kBefore, Touch(kAllFiles[3], 2000000000), true},
     {"OneSecondLater", kAllFiles, kBefore, Touch(kAllFiles[1], kBefore + 1000), true},
     {"OneSecondEarlier", kAllFiles, kBefore, Touch(kAllFiles[1], kBefore - 1000), true},
-    {"LaterWithinTheSecond", kAllFiles, kBefore, Touch(kAllFiles[1], kBefore + 499), false},
+    {"LaterWithinTheSecond", kAllFiles, kBefore, Touch(kAllFiles[1], kBefore + 1), true},
+    {"EarlierWithinTheSecond", kAllFiles, kBefore, Touch(kAllFiles[1], kBefore - 1), true},
+    {"TouchedWithTheSameTime", kAllFiles, kBefore, Touch(kAllFiles[1], kBefore), false},
     {"ToTheBeginningOfTime", kAllFiles, kBefore, Touch(kAllFiles[1], 0), true},
     {"FirstDeleted", kAllFiles, kBefore, Remove(kAllFiles[0]), true},
     {"LastDeleted", kAllFiles, kBefore, Remove(kAllFiles[3]), true},
     {"DirectoryDeleted", kAllFiles, kBefore, Remove("FR-CA"), true},
-    {"OtherBytesOfTheSameTime", kAllFiles, kBefore, Create(kAllFiles[1], kBefore), false},
+    {"OtherSizeOfTheSameTime", kAllFiles, kBefore, Write(kAllFiles[1], "Name Other\n", kBefore),
+     true},
+    {"NoBytesOfTheSameTime", kAllFiles, kBefore, Write(kAllFiles[1], "", kBefore), true},
+    {"OneByteMoreOfTheSameTime", kAllFiles, kBefore, Write(kAllFiles[1], kBytes + "\n", kBefore),
+     true},
+    // Nothing that one status call tells has changed.
+    {"OtherBytesOfTheSameSizeAndTime", kAllFiles, kBefore,
+     Write(kAllFiles[1], "Name Other\n\nKey K\nValue w\n", kBefore), false},
     {"FileOfAnotherComponentWritten", kAllFiles, kBefore, Create("FR/other.lang", 5000), false},
     {"OnlyFileDeleted", {kAllFiles[1]}, kBefore, Remove(kAllFiles[1]), true},
     {"CommonFileCreated", {kAllFiles[1]}, kBefore, Create(kAllFiles[0], 5000), false},
@@ -111,6 +123,7 @@ const StaleCase kStaleCases[] = {
     // A file of this time looks like one that was not there.
     {"Of1970Touched", {kAllFiles[1]}, 0, Touch(kAllFiles[1], 5000), false},
     {"Of1970Deleted", {kAllFiles[1]}, 0, Remove(kAllFiles[1]), false},
+    {"OfTheFirstSecondOf1970Touched", {kAllFiles[1]}, 999, Touch(kAllFiles[1], 5000), false},
     {"OfTheFirstSecondTouched", {kAllFiles[1]}, 1000, Touch(kAllFiles[1], 0), true},
 };
 

@@ -241,10 +241,11 @@ const LookupCase kOutside[] = {
      {{"../X/agent.lang", kOld}, {"FR-/y.lang", kOld}, {kLang, File("inside")}},
      "language agent fr /../../x K  text agent fr--/../../x K",
      "inside\ninside\n"},
-    {"ButWithinTheLanguageDirectory",
+    {"NorBackToAnotherLanguage",
      {{"FR/sub/agent.lang", kOld}, {"DE/agent.lang", kOld}},
-     "text sub/agent fr K  text ../DE/agent fr K",
-     "old\nold\n"},
+     "text sub/agent fr K  text ../DE/agent fr K  text sub/../agent fr K",
+     "old\n(null)\n(null)\n",
+     NoFiles("FR (../DE/agent)") + NoFiles("FR (sub/../agent)")},
 };
 
 std::string NameOf(const testing::TestParamInfo<LookupCase>& row) { return row.param.name; }

@@ -27,9 +27,12 @@ class FakeMachine final : public kx::SearchSources {
     return directories.count(path) != 0;
   }
 
+  bool TrustsWorkingDirectory() override { return trustsWorkingDirectory; }
+
   std::optional<std::string> executable;
   std::map<std::string, std::string> variables;
   std::set<std::string> directories;
+  bool trustsWorkingDirectory = true;
 
   std::vector<std::string> pathsAsked;
   std::vector<std::string> variablesAsked;
