@@ -4,22 +4,29 @@ kxxlate_unit_test(variable_insertion_test
   format/format_pieces_test.cpp
   format/insert_variable_model_test.cpp
   format/insert_variable_test.cpp
+  format/insert_variable_va_buffer_test.cpp
   format/insert_variable_va_test.cpp
   format/printf_piece_model_test.cpp
   format/printf_piece_test.cpp
+  format/variable_cases.h
   format/variable_copy_test.cpp
   format/variable_memory_test.cpp
+  format/varied_calls.h
   support/failing_new.cpp
   support/failing_new.h)
 
 kxxlate_unit_test(message_test
+  core/format_arguments_test.cpp
+  core/format_fixture.h
   core/format_test.cpp
   core/message_text_test.cpp
+  core/xlate_fields_test.cpp
   platform/admin_locale_test.cpp)
 
 kxxlate_host_program(format_host
   process/format_host.cpp
   process/host_files.cpp
+  process/host_steps.cpp
   process/host_steps.h)
 target_link_libraries(format_host PRIVATE KxXlate Threads::Threads)
 

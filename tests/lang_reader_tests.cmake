@@ -1,12 +1,17 @@
 kxxlate_unit_test(lang_reader_test
+  lang/body_cases.h
   lang/body_clauses_test.cpp
   lang/body_problems_test.cpp
   lang/header_directives_test.cpp
   lang/header_lines_test.cpp
   lang/interned_strings_test.cpp
+  lang/lang_file_bytes_test.cpp
   lang/lang_file_cases.h
   lang/lang_file_limits_test.cpp
+  lang/lang_file_model.cpp
+  lang/lang_file_model.h
   lang/lang_file_model_test.cpp
+  lang/lang_file_reader_cases.h
   lang/lang_file_reader_test.cpp
   lang/lang_problems_test.cpp
   lang/lang_reading.h

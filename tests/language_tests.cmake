@@ -1,14 +1,22 @@
 # The language side: translators of language files, their cache, and what hosts see of them.
 kxxlate_unit_test(language_test
   core/held_language_test.cpp
+  core/language_cache_change_test.cpp
+  core/language_cache_fixture.h
   core/language_cache_test.cpp
   lang/lang_file_place_test.cpp
   lang/lang_loader_test.cpp
+  lang/language_translator.h
+  lang/language_tree.h
   lang/real_kx_xlate_copy_test.cpp
   lang/real_kx_xlate_lookup_test.cpp
+  lang/real_kx_xlate_names_test.cpp
+  lang/real_kx_xlate_slots_test.cpp
   lang/real_kx_xlate_stale_test.cpp
   lang/real_kx_xlate_test.cpp
-  scenarios/language_fallback_test.cpp)
+  scenarios/language_fallback_test.cpp
+  scenarios/language_files.h
+  scenarios/language_precedence_test.cpp)
 if(WIN32)
   target_sources(language_test PRIVATE
     core/held_language_windows_test.cpp
@@ -24,6 +32,9 @@ kxxlate_unit_test(allocation_test
   core/translator_memory_test.cpp)
 
 kxxlate_host_test(language_process_test
+  process/language_directory.h
   process/language_directory_test.cpp
+  process/language_locale_test.cpp
   process/language_lookup_test.cpp
+  process/language_near_top_test.cpp
   process/language_threads_test.cpp)

@@ -2,11 +2,14 @@ kxxlate_unit_test(bundle_registry_test
   bundles/bundle_entries_test.cpp
   bundles/bundle_file_name_test.cpp
   bundles/bundle_memory_test.cpp
+  bundles/bundle_of_files.h
   bundles/bundle_test.cpp
   bundles/held_bundle_test.cpp
   bundles/install_manager_test.cpp
   bundles/parent_locale_test.cpp
   bundles/properties_bundle_test.cpp
+  bundles/properties_translator.h
+  bundles/properties_xlate_copy_test.cpp
   bundles/properties_xlate_test.cpp
   bundles/split_locale_test.cpp
   bundles/xlate_manager_test.cpp
@@ -21,4 +24,6 @@ if(WIN32)
 endif()
 
 kxxlate_host_test(property_process_test
-  process/property_lookup_test.cpp)
+  process/property_lookup.h
+  process/property_lookup_test.cpp
+  process/property_misses_test.cpp)

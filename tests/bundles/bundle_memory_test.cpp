@@ -7,37 +7,11 @@
 #include <thread>
 #include <vector>
 
-#include "bundles/bundle.h"
+#include "bundles/bundle_of_files.h"
 
 namespace {
 
-struct FakeTranslator {
-  void Release() {}
-};
-
-using Entry = bnd::BundleBase<FakeTranslator>;
-
-/// A bundle "msg" whose files lie at "msg_LOCALE", and what it remembers of the locales asked for.
-class BundleMemory : public testing::Test {
- protected:
-  void Add(const std::vector<std::string>& locales) {
-    for (const std::string& locale : locales) {
-      bundle_.AddFile(locale, locale.empty() ? "msg" : "msg_" + locale);
-    }
-  }
-
-  Entry* Known(std::string_view locale) { return bundle_.Resolve(locale, false); }
-  Entry* Ask(std::string_view locale) { return bundle_.Resolve(locale, true); }
-
-  /// The path of the file that answers with fallback.
-  std::string Answer(std::string_view locale) { return PathOf(Ask(locale)); }
-
-  static std::string PathOf(Entry* entry) {
-    return entry == nullptr ? "(nothing)" : entry->GetFile()->Path();
-  }
-
-  bnd::Bundle<FakeTranslator> bundle_{"msg"};
-};
+class BundleMemory : public BundleOfFiles {};
 
 TEST_F(BundleMemory, FallbackIsRememberedWithAllThatLieBetween) {
   Add({"", "fr", "fr_CA"});

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
-#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
@@ -14,15 +12,13 @@
 #include "core/counted_new.h"
 #include "core/language_cache.h"
 #include "lang/interned_strings.h"
+#include "support/held_reference.h"
 #include "support/lasting_log.h"
 #include "support/temp_tree.h"
 
 namespace {
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
+using Held = HeldReference<CRealKxXlate>;
 
 const char* const kFiles[] = {"FR/(Common).lang", "FR/agent.lang", "FR-CA/(Common).lang",
                               "FR-CA/agent.lang"};
@@ -68,10 +64,7 @@ class LanguageAllocationFailure : public testing::Test {
   }
 
   void Touch(const std::string& file, std::int64_t seconds) {
-    using std::filesystem::file_time_type;
-    const std::chrono::sys_time<std::chrono::nanoseconds> time{std::chrono::seconds(seconds)};
-    std::filesystem::last_write_time(PathFromUtf8(tree_.Path("lang/" + file)),
-                                     file_time_type::clock::from_sys(time));
+    tree_.SetModified("lang/" + file, std::chrono::seconds(seconds));
   }
 
   static void ExpectComplete(CRealKxXlate& translator) {

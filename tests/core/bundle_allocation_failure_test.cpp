@@ -2,21 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <thread>
 
 #include "bundles/properties_xlate.h"
 #include "bundles/xlate_manager.h"
 #include "core/counted_new.h"
+#include "support/held_reference.h"
 #include "support/temp_tree.h"
 
 namespace {
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-using Held = std::unique_ptr<CKxXlate, ReleaseTranslator>;
+using Held = HeldReference<CKxXlate>;
 
 constexpr int kKeys = 6;
 

@@ -1,109 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <cstdint>
-#include <iterator>
-#include <map>
 #include <ostream>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "CKxXlate.h"
 #include "Xlate.h"
+#include "core/format_fixture.h"
 #include "support/set_environment.h"
 
 namespace {
-
-/// Answers texts from a table, and counts what is done with it.
-class FakeTranslator final : public CKxXlate {
- public:
-  ~FakeTranslator() override = default;
-
-  void Release() override { ++released; }
-  void AddRef() override { ++added; }
-  const char* GetText(const char* key) override {
-    keysAsked.emplace_back(key);
-    const auto found = texts.find(key);
-    return found == texts.end() ? nullptr : found->second.c_str();
-  }
-
-  const char* GetName() override { return Unexpected(); }
-  const char* GetLanguageCode() override { return Unexpected(); }
-  const char* GetCountryCode() override { return Unexpected(); }
-  const char* GetLongName() override { return Unexpected(); }
-  const char* GetCharset() override { return Unexpected(); }
-  std::uint32_t GetId() override { return Unexpected() == nullptr ? 0 : 1; }
-  const char* GetImageDirectory() override { return Unexpected(); }
-  const char* GetDirection() override { return Unexpected(); }
-  const char* GetPromptSuffix() override { return Unexpected(); }
-  const char* GetDirectory(const char*) override { return Unexpected(); }
-  bool GetDirectory(char*, KxSize, const char*) override { return Unexpected() != nullptr; }
-  bool GetText(char*, KxSize, const char*, const char*) override { return Unexpected() != nullptr; }
-  const char* GetLabel(const char*) override { return Unexpected(); }
-  bool GetLabel(char*, KxSize, const char*) override { return Unexpected() != nullptr; }
-  bool GetPrompt(char*, KxSize, const char*, const char*) override {
-    return Unexpected() != nullptr;
-  }
-
-  std::map<std::string, std::string> texts;
-  int added = 0;
-  int released = 0;
-  std::vector<std::string> keysAsked;
-
- private:
-  static const char* Unexpected() {
-    ADD_FAILURE() << "only the text by its key is to be asked for";
-    return nullptr;
-  }
-};
-
-/// Each text with its NUL, in a string that holds nothing more.
-std::string Packed(const std::vector<std::string>& texts) {
-  std::string packed;
-  for (const std::string& text : texts) packed += text + '\0';
-  packed.shrink_to_fit();
-  return packed;
-}
-
-/// A message whose translator is given, so that none is looked up.
-Xlate MessageOf(FakeTranslator& translator, const std::vector<std::string>& arguments = {}) {
-  Xlate message;
-  message.translator = &translator;
-  message.resolved = true;
-  message.argCount = arguments.size();
-  message.args = Packed(arguments);
-  return message;
-}
-
-std::vector<std::string> Letters(std::size_t count) {
-  std::vector<std::string> letters;
-  for (std::size_t i = 0; i < count; ++i) letters.emplace_back(1, static_cast<char>('a' + i));
-  return letters;
-}
-
-struct FormatCase {
-  const char* name;
-  const char* key;
-  std::vector<std::string> arguments;
-  bool showKeys;
-  const char* expected;
-};
-
-void PrintTo(const FormatCase& c, std::ostream* os) { *os << (c.key == nullptr ? "null" : c.key); }
-
-class Format : public testing::TestWithParam<FormatCase> {
- protected:
-  Format() {
-    translator_.texts = {{"K1", "Hello"},
-                         {"GREET", "Hello %0, %1 new"},
-                         {"BRACES", "{1} before {0}"},
-                         {"EMPTY", ""},
-                         {"", "text of the empty key"}};
-  }
-
-  FakeTranslator translator_;
-};
 
 TEST_P(Format, Yields) {
   Xlate message = MessageOf(translator_, GetParam().arguments);
@@ -230,62 +136,6 @@ TEST_F(Format, KeepsTheLocaleWhenTheAdministratorHasNone) {
   EXPECT_FALSE(message.useAdminLocale);
 }
 
-TEST_F(Format, UsesSixteenArguments) {
-  Xlate message = MessageOf(translator_, Letters(16));
-  EXPECT_STREQ("p a", CKxXlate::Format(&message, "%15 %0"));
-  EXPECT_STREQ("o (p)", CKxXlate::Format(&message, "{14}"));
-}
-
-TEST_F(Format, UsesNoMoreThanSixteenArguments) {
-  Xlate message = MessageOf(translator_, Letters(20));
-  EXPECT_STREQ("%6 p", CKxXlate::Format(&message, "%16 %15"));
-  EXPECT_STREQ("o (p)", CKxXlate::Format(&message, "%14"));
-  EXPECT_STREQ("(a, b, c, d, e, f, g, h, i, j, k, l, m, n, o, p)",
-               CKxXlate::Format(&message, nullptr));
-}
-
-TEST_F(Format, UsesNoMoreArgumentsThanAreCounted) {
-  Xlate message = MessageOf(translator_, {"a", "b", "c"});
-  message.argCount = 2;
-  EXPECT_STREQ("Hello (a, b)", CKxXlate::Format(&message, "K1"));
-  message.argCount = 0;
-  EXPECT_STREQ("Hello", CKxXlate::Format(&message, "K1"));
-}
-
-// A count that says more than the string holds: the texts that are there count.
-TEST_F(Format, TheStringsOwnTerminatorIsOneMoreArgument) {
-  Xlate message = MessageOf(translator_, {"Ann"});
-  message.argCount = 2;
-  EXPECT_STREQ("Ann,", CKxXlate::Format(&message, "%0,%1"));
-  EXPECT_STREQ("Hello (Ann, )", CKxXlate::Format(&message, "K1"));
-  message.args = "Ann";  // where it ends the only one
-  EXPECT_STREQ("Ann,%1", CKxXlate::Format(&message, "%0,%1"));
-}
-
-TEST_F(Format, ReadsNoArgumentBehindThoseThereAre) {
-  const std::string longText(100, 'a');  // on the heap, where a sanitizer sees what reads too far
-  for (const std::uint64_t count : {3ULL, 16ULL, 17ULL, 1ULL << 32U, ~0ULL}) {
-    Xlate message = MessageOf(translator_, {longText, "b"});
-    message.argCount = count;
-    EXPECT_EQ("Hello (" + longText + ", b, )", CKxXlate::Format(&message, "K1")) << count;
-    EXPECT_STREQ("%3 b", CKxXlate::Format(&message, "%3 %1")) << count;
-  }
-}
-
-TEST_F(Format, ReadsNoArgumentBehindAnEmptyString) {
-  Xlate message = MessageOf(translator_);
-  message.argCount = 5;
-  EXPECT_STREQ("Hello ()", CKxXlate::Format(&message, "K1"));
-  EXPECT_STREQ(" %1", CKxXlate::Format(&message, "%0 %1"));
-}
-
-TEST_F(Format, LastArgumentMayLackItsNul) {
-  Xlate message = MessageOf(translator_);
-  message.args = "first" + std::string(1, '\0') + std::string(100, 'x');
-  message.argCount = 2;
-  EXPECT_EQ("Hello (first, " + std::string(100, 'x') + ")", CKxXlate::Format(&message, "K1"));
-}
-
 TEST_F(Format, KeyMayLieInTheOutput) {
   Xlate message = MessageOf(translator_);
   message.showKeys = true;
@@ -314,39 +164,6 @@ TEST_F(Format, ObjectsDoNotShareTheirOutput) {
   const char* text = CKxXlate::Format(&first, "BRACES");
   CKxXlate::Format(&second, "K1");
   EXPECT_STREQ("b before a", text);
-}
-
-static_assert(std::is_same_v<CKxXlate*, decltype(Xlate::translator)>);
-static_assert(std::is_same_v<std::uint64_t, decltype(Xlate::argCount)>);
-static_assert(std::is_same_v<std::string, decltype(Xlate::args)>);
-static_assert(std::is_same_v<CKxText, decltype(Xlate::output)>);
-static_assert(std::is_same_v<std::string, decltype(Xlate::bundleName)>);
-static_assert(std::is_same_v<CKxText, decltype(Xlate::locale)>);
-static_assert(std::is_same_v<bool, decltype(Xlate::showKeys)>);
-static_assert(std::is_same_v<bool, decltype(Xlate::resolved)>);
-static_assert(std::is_same_v<bool, decltype(Xlate::useAdminLocale)>);
-static_assert(std::is_polymorphic_v<CKxText>);
-
-TEST(XlateFields, LieInTheAgreedOrder) {
-  const Xlate message;
-  const void* const fields[] = {&message.translator, &message.argCount,   &message.args,
-                                &message.output,     &message.bundleName, &message.locale,
-                                &message.showKeys,   &message.resolved,   &message.useAdminLocale};
-  EXPECT_EQ(static_cast<const void*>(&message), fields[0]);
-  for (std::size_t i = 1; i < std::size(fields); ++i) {
-    EXPECT_LT(reinterpret_cast<std::uintptr_t>(fields[i - 1]),
-              reinterpret_cast<std::uintptr_t>(fields[i]))
-        << "field " << i;
-  }
-}
-
-TEST(XlateFields, OfANewObjectAskForALookup) {
-  const Xlate message;
-  EXPECT_EQ(nullptr, message.translator);
-  EXPECT_EQ(0U, message.argCount);
-  EXPECT_FALSE(message.showKeys);
-  EXPECT_FALSE(message.resolved);
-  EXPECT_FALSE(message.useAdminLocale);
 }
 
 }  // namespace

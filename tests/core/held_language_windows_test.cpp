@@ -4,27 +4,14 @@
 #include <windows.h>
 
 #include <atomic>
-#include <memory>
 #include <string>
 #include <thread>
 
-#include "core/language_cache.h"
-#include "lang/interned_strings.h"
-#include "support/lasting_log.h"
-#include "support/temp_tree.h"
+#include "core/language_cache_fixture.h"
 
 namespace {
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
 constexpr int kRollOuts = 20;
-
-std::string TextsOf(int rollOut) {
-  return "Name n\n\nKey K\nValue " + std::to_string(rollOut) + "\n";
-}
 
 void RollOut(const std::string& path, const std::string& bytes) {
   constexpr DWORD kShareNothing = 0;
@@ -39,31 +26,26 @@ void RollOut(const std::string& path, const std::string& bytes) {
   ::CloseHandle(file);
 }
 
-TEST(LanguageOnWindows, HasItsTextsThroughoutManyRollOuts) {
-  const TempTree tree;
-  const std::string file = "lang/FR/agent.lang";
-  tree.Write(file, TextsOf(0));
-  kx::LanguagePaths paths{true, tree.Path(), tree.Path("lang") + "/"};
-  kx::InternTable strings;
-  std::uint32_t nextId = 1;
-  kx::CRealKxXlateCache cache({paths, strings, nextId, LastingLog()});
-  const Held before(cache.FindOrLoad("agent", "fr", nullptr));
+using LanguageOnWindows = LanguageCache;
+
+TEST_F(LanguageOnWindows, HasItsTextsThroughoutManyRollOuts) {
+  LanguageTree::Write("FR/agent.lang", File("0"));
+  const Held before = FindFrench();
   std::atomic<bool> isOver = false;
   std::jthread writer([&] {
-    for (int rollOut = 1; rollOut <= kRollOuts; ++rollOut)
-      RollOut(tree.Path(file), TextsOf(rollOut));
+    for (int rollOut = 1; rollOut <= kRollOuts; ++rollOut) {
+      RollOut(tree_.Path("lang/FR/agent.lang"), File(std::to_string(rollOut)));
+    }
     isOver = true;
   });
   int requests = 0;
   for (; !isOver; ++requests) {
-    const Held french(cache.FindOrLoad("agent", "fr", nullptr));
+    const Held french = FindFrench();
     ASSERT_NE(nullptr, french);
     ASSERT_NE(nullptr, french->GetText("K")) << "request " << requests;
   }
   EXPECT_GT(requests, 0);
-  const Held french(cache.FindOrLoad("agent", "fr", nullptr));
-  EXPECT_STREQ(std::to_string(kRollOuts).c_str(), french->GetText("K"));
-  cache.Clear();
+  EXPECT_STREQ(std::to_string(kRollOuts).c_str(), FindFrench()->GetText("K"));
 }
 
 }  // namespace

@@ -2,67 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <filesystem>
-#include <memory>
+#include <cstdint>
 #include <string>
 #include <type_traits>
 
-#include "lang/interned_strings.h"
-#include "support/lasting_log.h"
-#include "support/temp_tree.h"
+#include "core/language_cache_fixture.h"
 
 namespace {
 
 static_assert(std::has_virtual_destructor_v<kx::CRealKxXlateCache>);
-
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
-/// A file with one text, whose key is K.
-std::string File(const std::string& text) { return "Name n\n\nKey K\nValue " + text + "\n"; }
-
-class LanguageCache : public testing::Test {
- protected:
-  LanguageCache() : cache_(std::make_unique<kx::CRealKxXlateCache>(context_)) {}
-  ~LanguageCache() override {
-    if (cache_ != nullptr) cache_->Clear();
-  }
-
-  /// Writes a file of the language directory, whose time of last change is `seconds`.
-  void Write(const std::string& file, const std::string& bytes, std::int64_t seconds = 1000) {
-    tree_.Write("lang/" + file, bytes);
-    Touch(file, seconds);
-  }
-
-  void Touch(const std::string& file, std::int64_t seconds) {
-    using std::filesystem::file_time_type;
-    const std::chrono::sys_time<std::chrono::nanoseconds> time{std::chrono::seconds(seconds)};
-    std::filesystem::last_write_time(PathFromUtf8(tree_.Path("lang/" + file)),
-                                     file_time_type::clock::from_sys(time));
-  }
-
-  void Remove(const std::string& file) {
-    std::filesystem::remove(PathFromUtf8(tree_.Path("lang/" + file)));
-  }
-
-  Held Find(const char* name, const char* language, const char* region) {
-    return Held(cache_->FindOrLoad(name, language, region));
-  }
-
-  Held FindFrench() { return Find("agent", "fr", nullptr); }
-
-  std::string Log() const { return tree_.Read("log/translate.log"); }
-
-  TempTree tree_;
-  kx::LanguagePaths paths_{true, tree_.Path(), tree_.Path("lang") + "/"};
-  kx::InternTable strings_;
-  std::uint32_t nextId_ = 1;
-  kx::LanguageContext context_{paths_, strings_, nextId_, LastingLog()};
-  std::unique_ptr<kx::CRealKxXlateCache> cache_;
-};
 
 // What is one entry
 
@@ -139,121 +87,6 @@ TEST_F(LanguageCache, AnswersAsTheFirstRequestWasSpelled) {
   Touch("FR/agent.lang", 2000);
   EXPECT_STREQ("FR-CA (AGENT)", Find("AGENT", "FR", "CA")->GetDisplayName());
   EXPECT_STREQ("capital", Find("agent", "fr", "ca")->GetText("K"));
-}
-
-// Changed files
-
-TEST_F(LanguageCache, ReadsAChangedLanguageAgain) {
-  Write("FR/agent.lang", File("old"), 1000);
-  const Held before = FindFrench();
-  Write("FR/agent.lang", File("new"), 2000);
-  const Held after = FindFrench();
-  EXPECT_NE(before, after);
-  EXPECT_EQ(2u, after->GetId());
-  EXPECT_STREQ("new", after->GetText("K"));
-  EXPECT_EQ(after, FindFrench());
-  EXPECT_EQ(3u, nextId_);
-}
-
-TEST_F(LanguageCache, ReplacedTranslatorsGoOnForTheirHolders) {
-  Write("FR/agent.lang", File("old"), 1000);
-  const Held before = FindFrench();
-  Write("FR/agent.lang", "Name other\n", 2000);
-  const Held after = FindFrench();
-  EXPECT_EQ(1u, before->GetId());
-  EXPECT_STREQ("old", before->GetText("K"));
-  EXPECT_STREQ("n", before->GetLongName());
-  EXPECT_EQ(nullptr, before->GetLabel("ABSENT"));
-  EXPECT_EQ(nullptr, after->GetText("K"));
-  EXPECT_STREQ("other", after->GetLongName());
-}
-
-TEST_F(LanguageCache, ReplacesTranslatorsThatNobodyHolds) {
-  Write("FR/agent.lang", File("old"), 1000);
-  EXPECT_EQ(1u, FindFrench()->GetId());
-  Write("FR/agent.lang", File("new"), 500);
-  EXPECT_EQ(2u, FindFrench()->GetId());
-  EXPECT_STREQ("new", FindFrench()->GetText("K"));
-}
-
-TEST_F(LanguageCache, ReadsOnlyTheChangedLanguageAgain) {
-  Write("FR/(Common).lang", File("french"), 1000);
-  Write("FR-CA/agent.lang", File("canadian"), 1000);
-  const Held french = FindFrench();
-  const Held canadian = Find("agent", "fr", "CA");
-  Touch("FR-CA/agent.lang", 2000);
-  EXPECT_EQ(french, FindFrench());
-  EXPECT_NE(canadian, Find("agent", "fr", "CA"));
-  EXPECT_EQ(4u, nextId_);
-}
-
-TEST_F(LanguageCache, AChangeOfASharedFileReachesEachLanguageThatReadIt) {
-  Write("FR/(Common).lang", File("old"), 1000);
-  EXPECT_EQ(1u, Find("a", "fr", nullptr)->GetId());
-  EXPECT_EQ(2u, Find("b", "fr", nullptr)->GetId());
-  Write("FR/(Common).lang", File("new"), 2000);
-  EXPECT_STREQ("new", Find("a", "fr", nullptr)->GetText("K"));
-  EXPECT_STREQ("new", Find("b", "fr", nullptr)->GetText("K"));
-  EXPECT_EQ(5u, nextId_);
-}
-
-TEST_F(LanguageCache, ANewFileIsNoticedOnlyWhenAnotherChanges) {
-  Write("FR/agent.lang", File("language"), 1000);
-  const Held before = Find("agent", "fr", "CA");
-  Write("FR-CA/agent.lang", File("country"), 1000);
-  EXPECT_EQ(before, Find("agent", "fr", "CA"));
-  Touch("FR/agent.lang", 2000);
-  EXPECT_STREQ("country", Find("agent", "fr", "CA")->GetText("K"));
-}
-
-TEST_F(LanguageCache, ADeletedFileIsNoticed) {
-  Write("FR/(Common).lang", File("common"), 1000);
-  Write("FR/agent.lang", File("named"), 1000);
-  EXPECT_STREQ("named", FindFrench()->GetText("K"));
-  Remove("FR/agent.lang");
-  EXPECT_STREQ("common", FindFrench()->GetText("K"));
-  EXPECT_EQ("(no file)", Log());
-}
-
-TEST_F(LanguageCache, AReloadThatFindsNoFileIsKept) {
-  Write("EN/agent.lang", File("english"));
-  Write("FR/agent.lang", File("french"));
-  const Held before = FindFrench();
-  Remove("FR/agent.lang");
-  const Held after = FindFrench();
-  ASSERT_NE(nullptr, after);
-  EXPECT_NE(before, after);
-  EXPECT_STREQ("FR", after->GetLanguageCode());
-  EXPECT_EQ(2u, after->GetId());
-  EXPECT_FALSE(after->AnyFileFound());
-  EXPECT_EQ(nullptr, after->GetText("K"));
-  EXPECT_STREQ("french", before->GetText("K"));
-  EXPECT_EQ(after, FindFrench());
-  EXPECT_EQ("No \"FR (agent)\" files found, trying EN.\n", Log());
-}
-
-TEST_F(LanguageCache, AReloadThatFoundNoFileDoesNotNoticeNewOnes) {
-  Write("FR/agent.lang", File("old"));
-  FindFrench();
-  Remove("FR/agent.lang");
-  const Held empty = FindFrench();
-  Write("FR/agent.lang", File("new"));
-  EXPECT_EQ(empty, FindFrench());
-  cache_->Clear();
-  EXPECT_STREQ("new", FindFrench()->GetText("K"));
-}
-
-TEST_F(LanguageCache, ReportsProblemsAgainWhenALanguageIsReadAgain) {
-  Write("FR/agent.lang", "x\n", 1000);
-  FindFrench();
-  FindFrench();
-  EXPECT_EQ("Illegal Header Directive in FR/agent.lang at line #1: x\n", Log());
-  Write("FR/agent.lang", "y\n", 2000);
-  FindFrench();
-  EXPECT_EQ(
-      "Illegal Header Directive in FR/agent.lang at line #1: x\n"
-      "Illegal Header Directive in FR/agent.lang at line #1: y\n",
-      Log());
 }
 
 // Languages without files

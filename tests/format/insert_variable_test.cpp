@@ -2,19 +2,14 @@
 
 #include <climits>
 #include <cstdio>
-#include <functional>
 #include <limits>
-#include <ostream>
 #include <string>
 
 #include "CKxXlate.h"
+#include "format/variable_cases.h"
 #include "support/guarded_buffer.h"
 
 namespace {
-
-constexpr KxSize kAmple = 512;
-
-using Call = std::function<void(char* buffer, KxSize size, const char* format)>;
 
 /// A call with these values.
 template <class... Values>
@@ -23,32 +18,6 @@ Call With(Values... values) {
     CKxXlate::InsertVariable(buffer, size, format, values...);
   };
 }
-
-std::string ZeroFilled(std::string text, KxSize size) {
-  text.resize(size, '\0');
-  return text;
-}
-
-/// Checks every byte in and around a buffer of `size` bytes that receives `expected`.
-void ExpectInserts(const Call& call, const char* format, KxSize size, const std::string& expected) {
-  GuardedBuffer buffer(size);
-  call(buffer.Data(), buffer.Size(), format);
-  EXPECT_EQ(expected, buffer.Text());
-  EXPECT_EQ(ZeroFilled(expected, size), std::string(buffer.Data(), size));
-  EXPECT_EQ(size, buffer.BytesWritten());
-  EXPECT_TRUE(buffer.IsFrontUntouched());
-}
-
-struct VariableCase {
-  const char* name;
-  const char* text;
-  Call call;
-  const char* expected;
-};
-
-void PrintTo(const VariableCase& c, std::ostream* os) { *os << '"' << c.text << '"'; }
-
-std::string NameOf(const testing::TestParamInfo<VariableCase>& row) { return row.param.name; }
 
 class InsertVariable : public testing::TestWithParam<VariableCase> {};
 

@@ -5,23 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "lang/lang_file_cases.h"
+#include "lang/body_cases.h"
 
 namespace {
 
 using std::string_literals::operator""s;
 
-/// The rows are bodies; a header of two lines is put in front of them, so they begin at line 3.
-class BodyProblems : public testing::TestWithParam<LangFileCase> {
- protected:
-  static void ExpectOfBody(const std::string& bytes) {
-    std::vector<std::string> stored = GetParam().stored;
-    stored.insert(stored.begin(), "name = F");
-    ExpectStoresAndReports(bytes, stored, GetParam().problems);
-  }
-
-  const std::string bytes_ = "Name F\n\n" + GetParam().bytes;
-};
+class BodyProblems : public BodyOfRow {};
 
 TEST_P(BodyProblems, AreReportedAndLoseNoMore) { ExpectOfBody(bytes_); }
 

@@ -10,7 +10,6 @@
 
 #include "lang/interned_strings.h"
 #include "support/lasting_log.h"
-#include "support/modified_time.h"
 #include "support/special_files.h"
 #include "support/temp_tree.h"
 
@@ -84,7 +83,7 @@ class LangLoader : public testing::Test {
   }
 
   void SetModified(const std::string& relative, std::chrono::milliseconds sinceEpoch) {
-    SetModifiedTime(tree_.Path("lang/" + relative), sinceEpoch);
+    tree_.SetModified("lang/" + relative, sinceEpoch);
   }
 
   std::string Log() const { return tree_.Read("log/translate.log"); }

@@ -3,55 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
 #include <ostream>
 #include <string>
 
-#include "lang/interned_strings.h"
-#include "lang/real_kx_xlate.h"
+#include "lang/language_tree.h"
 #include "support/guarded_buffer.h"
-#include "support/lasting_log.h"
-#include "support/temp_tree.h"
 
 namespace {
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-/// A new translator carries no reference, so that releasing it once destroys it.
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
 constexpr KxSize kHugeSize = std::numeric_limits<KxSize>::max();
 
-class LanguageCopy : public testing::Test {
- protected:
-  /// A translator of a file.
-  Held Read(const std::string& bytes) {
-    tree_.Write("lang/FR/agent.lang", bytes);
-    const kx::LanguageContext context = {paths_, strings_, nextId_, LastingLog()};
-    return Held(new CRealKxXlate(context, "agent", "fr", nullptr));
-  }
-
- private:
-  TempTree tree_;
-  kx::LanguagePaths paths_{true, tree_.Path(), tree_.Path("lang") + "/"};
-  kx::InternTable strings_;
-  std::uint32_t nextId_ = 1;
-};
-
-const char* const kFile =
-    "Prompt Suffix :\n"
-    "Directory help /docs/fr\n"
-    "Directory none\n"
-    "\n"
-    "Key Login\n"
-    "Value abcdef\n"
-    "Key EMPTY\n"
-    "Val\n"
-    "Button Ok\n"
-    "Label D'accord\n"
-    "Button BLANK\n"
-    "Label\n";
+class LanguageCopy : public LanguageTree {};
 
 enum class Form { kDirectory, kText, kLabel, kPrompt };
 
@@ -90,7 +52,7 @@ class LanguageCopies : public LanguageCopy, public testing::WithParamInterface<C
 
 TEST_P(LanguageCopies, FitsBuffersOfEverySize) {
   const CopyCase& c = GetParam();
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   for (KxSize size = 1; size <= 24; ++size) {
     SCOPED_TRACE(size);
     GuardedBuffer buffer(size);
@@ -103,7 +65,7 @@ TEST_P(LanguageCopies, FitsBuffersOfEverySize) {
 
 TEST_P(LanguageCopies, TakesTheCallersSizeAsItIs) {
   const CopyCase& c = GetParam();
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   GuardedBuffer buffer(24);
   EXPECT_EQ(c.found, Copy(*translator, c.form, buffer.Data(), kHugeSize, c.key, c.dflt));
   EXPECT_EQ(c.whole, buffer.Text());
@@ -112,7 +74,7 @@ TEST_P(LanguageCopies, TakesTheCallersSizeAsItIs) {
 
 TEST_P(LanguageCopies, WritesNothingWithoutRoom) {
   const CopyCase& c = GetParam();
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   GuardedBuffer buffer(8);
   EXPECT_FALSE(Copy(*translator, c.form, buffer.Data(), 0, c.key, c.dflt));
   EXPECT_EQ(0u, buffer.BytesWritten());

@@ -1,62 +1,18 @@
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
 
-#include "lang/interned_strings.h"
-#include "lang/real_kx_xlate.h"
+#include "lang/language_tree.h"
 #include "support/guarded_buffer.h"
-#include "support/lasting_log.h"
-#include "support/temp_tree.h"
 
 namespace {
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-/// A new translator carries no reference, so that releasing it once destroys it.
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
-/// Translators of one file, "FR/agent.lang", with a log of their own.
-class LanguageLookup : public testing::Test {
- protected:
-  Held Load(const char* name, const char* language, const char* country) {
-    const kx::LanguageContext context = {paths_, strings_, nextId_, log_};
-    return Held(new CRealKxXlate(context, name, language, country));
-  }
-
-  Held Read(const std::string& bytes) {
-    tree_.Write("lang/FR/agent.lang", bytes);
-    return Load("agent", "fr", "ca");
-  }
-
-  std::string Log() const { return tree_.Read("log/translate.log"); }
-
-  TempTree tree_;
-  kx::LanguagePaths paths_{true, tree_.Path(), tree_.Path("lang") + "/"};
-  kx::InternTable strings_;
-  std::uint32_t nextId_ = 1;
-  kx::TranslationLog& log_ = LastingLog();
-};
-
-const char* const kFile =
-    "Prompt Suffix :\n"
-    "Directory help /docs/fr\n"
-    "Directory none\n"
-    "\n"
-    "Key Login\n"
-    "Value abcdef\n"
-    "Key EMPTY\n"
-    "Val\n"
-    "Button Ok\n"
-    "Label D'accord\n"
-    "Button BLANK\n"
-    "Label\n";
+class LanguageLookup : public LanguageTree {};
 
 TEST_F(LanguageLookup, FindsKeysInAnyAsciiCase) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   for (const char* key : {"Login", "LOGIN", "login", "lOGIN"}) {
     EXPECT_STREQ("abcdef", translator->GetText(key)) << key;
     EXPECT_EQ(translator->GetText("Login"), translator->GetText(key)) << key;
@@ -76,7 +32,7 @@ TEST_F(LanguageLookup, ComparesOtherLettersExactly) {
 }
 
 TEST_F(LanguageLookup, FindsEmptyValues) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   EXPECT_STREQ("", translator->GetText("empty"));
   EXPECT_STREQ("", translator->GetLabel("blank"));
   EXPECT_STREQ("", translator->GetDirectory("none"));
@@ -84,7 +40,7 @@ TEST_F(LanguageLookup, FindsEmptyValues) {
 }
 
 TEST_F(LanguageLookup, ThreeTablesDoNotAnswerForOneAnother) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   EXPECT_EQ(nullptr, translator->GetText("Ok"));
   EXPECT_EQ(nullptr, translator->GetText("help"));
   EXPECT_EQ(nullptr, translator->GetLabel("Login"));
@@ -92,7 +48,7 @@ TEST_F(LanguageLookup, ThreeTablesDoNotAnswerForOneAnother) {
 }
 
 TEST_F(LanguageLookup, AMissIsLoggedOnceWithTheDisplayName) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   EXPECT_EQ(nullptr, translator->GetText("LOGIN_PROMPT"));
   EXPECT_EQ("FR-ca (agent) key not found: LOGIN_PROMPT\n", Log());
   EXPECT_EQ(nullptr, translator->GetText("LOGIN_PROMPT"));
@@ -104,7 +60,7 @@ TEST_F(LanguageLookup, AMissIsLoggedOnceWithTheDisplayName) {
 }
 
 TEST_F(LanguageLookup, AMissIsLoggedForEachTable) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   for (int round = 0; round < 2; ++round) {
     EXPECT_EQ(nullptr, translator->GetDirectory("Absent"));
     EXPECT_EQ(nullptr, translator->GetText("ABSENT"));
@@ -118,7 +74,7 @@ TEST_F(LanguageLookup, AMissIsLoggedForEachTable) {
 }
 
 TEST_F(LanguageLookup, AMissIsLoggedForEachTranslator) {
-  const Held first = Read(kFile);
+  const Held first = Read(kFileForLookups);
   const Held second = Load("agent", "fr", nullptr);
   EXPECT_EQ(nullptr, first->GetText("ABSENT"));
   EXPECT_EQ(nullptr, second->GetText("ABSENT"));
@@ -130,7 +86,7 @@ TEST_F(LanguageLookup, AMissIsLoggedForEachTranslator) {
 }
 
 TEST_F(LanguageLookup, AMissInABufferIsLoggedToo) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   char buffer[20];
   EXPECT_FALSE(translator->GetDirectory(buffer, sizeof buffer, "A"));
   EXPECT_FALSE(translator->GetText(buffer, sizeof buffer, "B", nullptr));
@@ -145,7 +101,7 @@ TEST_F(LanguageLookup, AMissInABufferIsLoggedToo) {
 }
 
 TEST_F(LanguageLookup, AMissDoesNotHideOtherKeys) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   for (int key = 0; key < 200; ++key) {
     EXPECT_EQ(nullptr, translator->GetText(("ABSENT" + std::to_string(key)).c_str()));
   }
@@ -155,7 +111,7 @@ TEST_F(LanguageLookup, AMissDoesNotHideOtherKeys) {
 }
 
 TEST_F(LanguageLookup, ALineEndInAKeyDoesNotMakeASecondLine) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   EXPECT_EQ(nullptr, translator->GetText("A\r\nFR (agent) key not found: B"));
   EXPECT_EQ("FR-ca (agent) key not found: A\\r\\nFR (agent) key not found: B\n", Log());
 }
@@ -206,7 +162,7 @@ TEST_F(LanguageLookup, AFileWithoutTextsIsEnoughToLogMisses) {
 }
 
 TEST_F(LanguageLookup, MissesOfManyThreadsAreLoggedOnceEach) {
-  const Held translator = Read(kFile);
+  const Held translator = Read(kFileForLookups);
   std::vector<std::thread> threads;
   for (int thread = 0; thread < 8; ++thread) {
     threads.emplace_back([&translator] {

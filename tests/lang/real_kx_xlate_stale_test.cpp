@@ -1,29 +1,19 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "lang/interned_strings.h"
-#include "lang/real_kx_xlate.h"
-#include "support/lasting_log.h"
-#include "support/modified_time.h"
-#include "support/temp_tree.h"
+#include "lang/language_tree.h"
 
 namespace {
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-/// A new translator carries no reference, so that releasing it once destroys it.
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
 void SetModified(const TempTree& tree, const std::string& file, std::int64_t milliseconds) {
-  SetModifiedTime(tree.Path("lang/" + file), std::chrono::milliseconds(milliseconds));
+  tree.SetModified("lang/" + file, std::chrono::milliseconds(milliseconds));
 }
 
 constexpr std::int64_t kBefore = 1000000500;
@@ -39,28 +29,15 @@ struct StaleCase {
 
 void PrintTo(const StaleCase& c, std::ostream* os) { *os << c.name; }
 
-class StaleTranslator : public testing::TestWithParam<StaleCase> {
- protected:
-  Held Load() {
-    const kx::LanguageContext context = {paths_, strings_, nextId_, LastingLog()};
-    return Held(new CRealKxXlate(context, "agent", "fr", "ca"));
-  }
-
-  TempTree tree_;
-
- private:
-  kx::LanguagePaths paths_{true, tree_.Path(), tree_.Path("lang") + "/"};
-  kx::InternTable strings_;
-  std::uint32_t nextId_ = 1;
-};
+class StaleTranslator : public LanguageTree, public testing::WithParamInterface<StaleCase> {};
 
 TEST_P(StaleTranslator, IsRecognised) {
   const StaleCase& c = GetParam();
   for (const std::string& file : c.files) {
-    tree_.Write("lang/" + file, kBytes);
+    Write(file, kBytes);
     SetModified(tree_, file, c.modified);
   }
-  const Held translator = Load();
+  const Held translator = Load("agent", "fr", "ca");
   EXPECT_FALSE(translator->IsStale());
   c.change(tree_);
   EXPECT_EQ(c.stale, translator->IsStale());

@@ -29,11 +29,6 @@ class FileStatus : public testing::Test {
   }
 
   int Status(const std::string& relative) { return KxStat(tree_.Path(relative).c_str(), &status_); }
-  void SetModified(const std::string& relative, std::chrono::milliseconds since1970) const {
-    const std::chrono::sys_time<std::chrono::milliseconds> time(since1970);
-    std::filesystem::last_write_time(PathFromUtf8(tree_.Path(relative)),
-                                     std::chrono::file_clock::from_sys(time));
-  }
   bool SaysDirectory() const { return (status_.mode & kKxModeDirectory) != 0; }
   bool IsDirectory(const std::string& relative) const {
     return KxIsDirectory(tree_.Path(relative).c_str());
@@ -68,17 +63,26 @@ TEST_F(FileStatus, FailsForWhatIsMissingAndLeavesTheRecord) {
   EXPECT_FALSE(KxIsDirectory(""));
 }
 
-TEST_F(FileStatus, TellsTheTimeOfTheLastChangeInWholeSeconds) {
-  using std::chrono::milliseconds;
+TEST_F(FileStatus, TellsTheTimeOfTheLastChange) {
+  using std::chrono::nanoseconds;
+  // Units of a tenth of a microsecond, which every system has.
   // The last one does not fit into 32 bits.
   for (const std::int64_t seconds :
        std::initializer_list<std::int64_t>{1, 1000000001, 4102444800}) {
-    SetModified("file", milliseconds(seconds * 1000));
+    for (const std::uint32_t rest : {0U, 100U, 123456700U, 999999900U}) {
+      tree_.SetModified("file", std::chrono::seconds(seconds) + nanoseconds(rest));
+      EXPECT_EQ(0, Status("file"));
+      EXPECT_EQ(seconds, status_.modified);
+      EXPECT_EQ(rest, status_.modifiedNanoseconds);
+    }
+  }
+}
+
+TEST_F(FileStatus, TellsTheSize) {
+  for (const std::size_t size : {0U, 1U, 4096U, 100000U}) {
+    tree_.Write("file", std::string(size, 'x'));
     EXPECT_EQ(0, Status("file"));
-    EXPECT_EQ(seconds, status_.modified);
-    SetModified("file", milliseconds(seconds * 1000 + 999));
-    EXPECT_EQ(0, Status("file"));
-    EXPECT_EQ(seconds, status_.modified);
+    EXPECT_EQ(size, status_.size);
   }
 }
 

@@ -16,20 +16,17 @@
 //   release                 gives the message's own reference back
 //   drop                    gives back a reference on the watched translator that nobody owns
 //   alive                   prints whether the watched translator has not been destroyed
-//   free                    calls FreeCache
-//   write FILE TEXT         writes a file
-//   touch FILE SECONDS      sets a file's time of last change, in seconds since 1970
 //   threads COUNT KEY       COUNT threads, started together, format copies of the message that are
 //                           not resolved; prints each different result
+//
+// Every host knows some more: see host_steps.h.
 //
 // "(null)" as an argument passes a null pointer; a null answer is printed as "(null)".
 
 #include <atomic>
 #include <cstdlib>
-#include <functional>
 #include <iostream>
 #include <list>
-#include <map>
 #include <new>
 #include <set>
 #include <string>
@@ -39,7 +36,6 @@
 #include "CKxXlate.h"
 #include "Xlate.h"
 #include "process/host_steps.h"
-#include "tools/arguments.h"
 
 namespace {
 
@@ -74,24 +70,10 @@ class FormatHost {
   FormatHost() : messages_(1) {}
   ~FormatHost() { CKxXlate::FreeCache(); }
 
-  bool Do(const std::string& step, const Arguments& arguments) {
-    const auto found = steps_.find(step);
-    if (found == steps_.end()) return false;
-    found->second.action(arguments);
-    return true;
-  }
-
-  std::size_t ArgumentsOf(const std::string& step) const {
-    const auto found = steps_.find(step);
-    return found == steps_.end() ? 0 : found->second.arguments;
-  }
+  /// The steps; they refer to this object.
+  HostSteps Steps();
 
  private:
-  struct Step {
-    std::size_t arguments;
-    std::function<void(const Arguments&)> action;
-  };
-
   Xlate& Message() { return messages_.back(); }
 
   void AddArgument(const std::string& text) {
@@ -153,7 +135,10 @@ class FormatHost {
   }
 
   std::list<Xlate> messages_;
-  const std::map<std::string, Step> steps_ = {
+};
+
+HostSteps FormatHost::Steps() {
+  return {
       {"new", {0, [this](const auto&) { messages_.emplace_back(); }}},
       {"bundle", {1, [this](const auto& a) { Message().bundleName = a[0]; }}},
       {"locale", {1, [this](const auto& a) { Message().locale.Set(a[0].c_str()); }}},
@@ -169,28 +154,13 @@ class FormatHost {
       {"release", {0, [this](const auto&) { ReleaseOwn(); }}},
       {"drop", {0, [](const auto&) { Watched()->Release(); }}},
       {"alive", {0, [](const auto&) { PrintTruth(g_isWatchedAlive); }}},
-      {"free", {0, [](const auto&) { CKxXlate::FreeCache(); }}},
-      {"write", {2, [](const auto& a) { WriteFile(a[0], a[1]); }}},
-      {"touch", {2, [](const auto& a) { SetModified(a[0], std::atoll(a[1].c_str())); }}},
       {"threads", {2, [this](const auto& a) { FormatInThreads(a[0], a[1]); }}},
   };
-};
+}
 
 }  // namespace
 
 int main(int count, char** values) {
-  const std::vector<std::string> words = Utf8Arguments(count, values);
   FormatHost host;
-  for (std::size_t at = 0; at < words.size();) {
-    const std::string& step = words[at++];
-    const std::size_t end = at + host.ArgumentsOf(step);
-    if (end > words.size()) return 3;
-    if (!host.Do(step, Arguments(words.begin() + static_cast<std::ptrdiff_t>(at),
-                                 words.begin() + static_cast<std::ptrdiff_t>(end)))) {
-      std::cerr << "unknown step: " << step << '\n';
-      return 3;
-    }
-    at = end;
-  }
-  return 0;
+  return TakeSteps(host.Steps(), count, values);
 }

@@ -1,20 +1,36 @@
 #ifndef KX_TESTS_PROCESS_HOST_STEPS_H
 #define KX_TESTS_PROCESS_HOST_STEPS_H
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <memory>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "CKxXlate.h"
+#include "support/held_reference.h"
 
 using Arguments = std::vector<std::string>;
+using Held = HeldReference<CKxXlate>;
 
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
+/// What a host does when its arguments name the step, and how many arguments follow the name.
+struct HostStep {
+  std::size_t arguments;
+  std::function<void(const Arguments&)> action;
 };
-using Held = std::unique_ptr<CKxXlate, ReleaseTranslator>;
+using HostSteps = std::map<std::string, HostStep>;
+
+/// Takes the steps that the arguments of the program name, one after another. Besides `steps` every
+/// host knows these:
+///
+///   free                    calls FreeCache
+///   write FILE TEXT         writes a file
+///   touch FILE SECONDS      sets a file's time of last change, in seconds since 1970
+///
+/// @return what main returns: 3 when there is no such step or an argument is missing
+int TakeSteps(HostSteps steps, int count, char** values);
 
 /// The argument's text; null for "(null)".
 const char* Pointer(const std::string& argument);

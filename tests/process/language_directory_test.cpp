@@ -2,103 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 #include <vector>
 
-#include "support/host_tree.h"
-#include "support/set_environment.h"
+#include "process/language_directory.h"
 
 namespace {
-
-std::string File(const std::string& text) { return "Name n\n\nKey K\nValue " + text + "\n"; }
-
-const std::string kNoFrench = "No \"FR (agent)\" files found, trying EN.\n";
-const std::vector<std::string> kLookUp = {"text", "agent", "fr", "K"};
-
-std::vector<std::string> Steps(const std::vector<std::vector<std::string>>& parts) {
-  std::vector<std::string> steps;
-  for (const auto& part : parts) steps.insert(steps.end(), part.begin(), part.end());
-  return steps;
-}
-
-// The directory of a locale
-
-struct SplitCase {
-  const char* name;
-  const char* locale;
-  const char* directory;  // the most specific one that is read
-  const char* codes;
-};
-
-void PrintTo(const SplitCase& c, std::ostream* os) { *os << '"' << c.locale << '"'; }
-
-const SplitCase kSplits[] = {
-    {"Language", "de", "DE", "DE|"},
-    {"Hyphen", "fr-CA", "FR-CA", "FR|CA"},
-    {"Underscore", "fr_CA", "FR-CA", "FR|CA"},
-    {"SmallLetters", "fr_ca", "FR-CA", "FR|CA"},
-    {"Capitals", "FR-CA", "FR-CA", "FR|CA"},
-    {"LongRegionIsDropped", "de_AUT", "DE", "DE|"},
-    {"LongRegionBehindHyphenIsDropped", "de-AUT", "DE", "DE|"},
-    {"NumericRegionIsDropped", "es-419", "ES", "ES|"},
-    {"ShortRegionIsDropped", "de-A", "DE", "DE|"},
-    {"EmptyRegion", "de-", "DE", "DE|"},
-    {"ScriptIsDropped", "zh-Hant-TW", "ZH-TW", "ZH|TW"},
-    {"ScriptAlone", "zh-Hant", "ZH", "ZH|"},
-    {"ScriptWithUnderscores", "zh_Hant_TW", "ZH", "ZH|"},
-    {"RegionRunsIntoTheRestBehindAScript", "zh-Hant-TW-x", "ZH-TW-X", "ZH|TW-X"},
-    {"CountIsThePlaceOfTheSecondHyphen", "en-US-POSIX", "EN-US-PO", "EN|US-PO"},
-    {"CountEndsWithTheLocale", "de-AT-x", "DE-AT-X", "DE|AT-X"},
-    {"SecondHyphenAtTheEnd", "de-AT-", "DE-AT-", "DE|AT-"},
-    {"OneLetterInBetween", "de-x-AT", "DE-AT", "DE|AT"},
-    {"UnderscoreIsNoSecondSeparator", "en_US_x", "EN", "EN|"},
-    {"UnderscoreBehindAHyphen", "fr-CA_x", "FR", "FR|"},
-    {"UnderscoreBeforeAHyphen", "fr_CA-BE", "FR_CA-BE", "FR_CA|BE"},
-    {"RegionAlone", "-AT", "-AT", "|AT"},
-};
-
-class LocaleOfHost : public testing::TestWithParam<SplitCase> {};
-
-TEST_P(LocaleOfHost, LeadsToItsDirectory) {
-  HostTree tree;
-  for (const SplitCase& c : kSplits) {
-    tree.Write(std::string("product/resources/") + c.directory + "/agent.lang", File(c.directory));
-  }
-  const SplitCase& c = GetParam();
-  const HostRun run = tree.RunHostIn("product/bin", {"text", "agent", c.locale, "K", "info",
-                                                     "agent", c.locale, "id", "agent", c.locale});
-  EXPECT_EQ(0, run.exitCode);
-  EXPECT_EQ(std::string(c.directory) + "\nagent|" + c.codes + "\n1\n", run.output);
-  EXPECT_EQ("", run.errors);
-  EXPECT_EQ("(no file)", tree.Read("product/log/translate.log"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Locales, LocaleOfHost, testing::ValuesIn(kSplits),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-// The directory of all languages
-
-class LanguageDirectory : public testing::Test {
- protected:
-  void Provide(const std::string& directory) {
-    tree_.Write(directory + "/FR/agent.lang", File(directory));
-  }
-
-  void ExpectOutput(const std::string& hostDirectory, const std::vector<std::string>& steps,
-                    const std::string& output) {
-    const HostRun run = tree_.RunHostIn(hostDirectory, steps);
-    EXPECT_EQ(0, run.exitCode);
-    EXPECT_EQ(output, run.output);
-    EXPECT_EQ("", run.errors);
-  }
-
-  std::vector<std::string> Use(const std::string& directory) const {
-    return {"use", tree_.Path(directory)};
-  }
-
-  HostTree tree_;
-};
 
 TEST_F(LanguageDirectory, IsTheResourceDirectory) {
   Provide("product/a/resources");
@@ -234,78 +143,6 @@ TEST_F(LanguageDirectory, SharesItsLogWithTheBundles) {
   EXPECT_EQ(kNoFrench + tree_.SystemPath("product") +
                 "/resources/bundle_fr.properties key not found: K\n" + kNoFrench,
             tree_.Read("product/log/translate.log"));
-}
-
-// A host so near the top that the search for "resources" ends with nothing
-
-/// Makes the tree directly in /tmp, wherever others are made.
-struct InTmp {
-  InTmp() { SetVariable("TMPDIR", "/tmp"); }
-};
-
-class LanguageDirectoryNearTheTop : public InTmp, public LanguageDirectory {};
-
-TEST_F(LanguageDirectoryNearTheTop, IsNamedLanguageBesideTheExecutable) {
-  Provide("Language");
-  Provide("elsewhere/Language");
-  Provide("work/Language");
-  tree_.SetEnvironment("TAVI_XLATE_ROOT", tree_.Path("elsewhere"));
-  ExpectOutput("", Steps({kLookUp, {"text", "agent", "de", "K"}}), "Language\n(null)\n");
-  EXPECT_EQ("No \"DE (agent)\" files found, trying EN.\n", tree_.Read("log/translate.log"));
-}
-
-TEST_F(LanguageDirectoryNearTheTop, IsNamedLanguageAboveTheExecutable) {
-  Provide("Language");
-  ExpectOutput("bin", kLookUp, "Language\n");
-}
-
-TEST_F(LanguageDirectoryNearTheTop, IsNamedLanguageUnderAVariable) {
-  Provide("elsewhere/Language");
-  Provide("work/Language");
-  tree_.SetEnvironment("TAVI_POLSRV_ROOT", tree_.Path("elsewhere") + "/");
-  ExpectOutput("", Steps({kLookUp, {"text", "agent", "de", "K"}}), "elsewhere/Language\n(null)\n");
-  EXPECT_EQ("No \"DE (agent)\" files found, trying EN.\n",
-            tree_.Read("elsewhere/log/translate.log"));
-}
-
-TEST_F(LanguageDirectoryNearTheTop, IsNamedLanguageInTheWorkingDirectory) {
-  Provide("work/Language");
-  ExpectOutput("", Steps({kLookUp, {"text", "agent", "de", "K"}}), "work/Language\n(null)\n");
-  EXPECT_EQ("No \"DE (agent)\" files found, trying EN.\n", tree_.Read("work/log/translate.log"));
-}
-
-TEST_F(LanguageDirectoryNearTheTop, IsNotNamedLanguageBesideResources) {
-  Provide("Language");
-  Provide("resources");
-  ExpectOutput("", kLookUp, "resources\n");
-}
-
-TEST_F(LanguageDirectoryNearTheTop, IsNotNamedLanguageInSmallLetters) {
-  Provide("language");
-  ExpectOutput("", kLookUp, "(null)\n");
-  EXPECT_EQ(kNoFrench, tree_.Read("work/log/translate.log"));
-}
-
-TEST_F(LanguageDirectoryNearTheTop, IsNotMovedByAReplacement) {
-  Provide("Language");
-  Provide("elsewhere");
-  ExpectOutput("", Steps({Use("elsewhere"), kLookUp}), "true\nLanguage\n");
-}
-
-TEST_F(LanguageDirectoryNearTheTop, WhoeverWritesFirstDecidesWhereTheLogIs) {
-  tree_.MakeDirectory("Language");
-  tree_.Write("elsewhere/bundle_fr.properties", "A=a\n");
-  const std::vector<std::string> miss = {"text", "bundle", "fr", "K"};
-  const std::string missLine = tree_.Path("elsewhere/bundle_fr.properties") + " key not found: K\n";
-
-  ExpectOutput("", Steps({Use("elsewhere"), miss, kLookUp}), "true\n(null)\n(null)\n");
-  EXPECT_EQ(missLine + kNoFrench, tree_.Read("work/log/translate.log"));
-  EXPECT_FALSE(tree_.Exists("log"));
-
-  tree_.SetWorkingDirectory("work2");
-  ExpectOutput("", Steps({Use("elsewhere"), kLookUp, miss}), "true\n(null)\n(null)\n");
-  EXPECT_EQ(kNoFrench + missLine, tree_.Read("log/translate.log"));
-  EXPECT_FALSE(tree_.Exists("work2/log"));
 }
 
 }  // namespace

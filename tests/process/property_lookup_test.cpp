@@ -1,125 +1,14 @@
-#include <gmock/gmock.h>
+// What hosts get from property bundles.
+
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <ostream>
-#include <sstream>
 #include <string>
 #include <vector>
 
-#include "support/host_tree.h"
+#include "process/property_lookup.h"
 
 namespace {
-
-using testing::UnorderedElementsAreArray;
-
-constexpr const char* kLog = "product/log/translate.log";
-
-/// A product whose bundle "agent" has a default, English, French and Canadian French.
-class PropertyLookup : public testing::Test {
- protected:
-  PropertyLookup() {
-    Write("agent.properties", "Hello=Hi\nOnlyDefault=x\n");
-    Write("agent_en.properties", "Hello=Hello\n");
-    Write("agent_fr.properties", "Hello=Bonjour\nOnlyFrench=x\nEmpty=\n");
-    Write("agent_fr_CA.properties", "Hello=Allo\n");
-  }
-
-  void Write(const std::string& name, const std::string& bytes) {
-    tree_.Write("product/resources/" + name, bytes);
-  }
-
-  /// What a host prints that takes these steps without a problem.
-  std::string Output(const std::vector<std::string>& steps) const {
-    const HostRun run = tree_.RunHostIn("product/bin", steps);
-    EXPECT_EQ(0, run.exitCode);
-    EXPECT_EQ("", run.errors);
-    return run.output;
-  }
-
-  std::string Log() const { return tree_.Read(kLog); }
-
-  /// The library's path of a bundle file; it begins as the system tells the executable's.
-  std::string BundlePath(const std::string& name) const {
-    return tree_.SystemPath("product") + "/resources/" + name;
-  }
-
-  /// The log's line for a key that the file lacks.
-  std::string Line(const std::string& name, const std::string& key) const {
-    return BundlePath(name) + " key not found: " + key + "\n";
-  }
-
-  HostTree tree_;
-};
-
-TEST_F(PropertyLookup, KeyThatIsThereIsNotLogged) {
-  EXPECT_EQ("Bonjour\nBonjour\n\n", Output({"text", "agent", "fr", "Hello",  //
-                                            "text", "agent", "fr", "HELLO",  //
-                                            "text", "agent", "fr", "Empty"}));
-  EXPECT_FALSE(tree_.Exists("product/log"));
-}
-
-TEST_F(PropertyLookup, AbsentKeyIsNullAndLoggedOnce) {
-  EXPECT_EQ("(null)\n(null)\n(null)\n",
-            Output({"keep", "agent", "fr", "kept", "ABSENT", "kept", "ABSENT", "kept", "ABSENT"}));
-  EXPECT_EQ(Line("agent_fr.properties", "ABSENT"), Log());
-}
-
-TEST_F(PropertyLookup, AbsentKeyIsLoggedOnceThroughManyReferences) {
-  EXPECT_EQ("(null)\n(null)\n(null)\n", Output({"text", "agent", "fr", "ABSENT",     //
-                                                "text", "agent", "FR-be", "ABSENT",  //
-                                                "language", "agent", "fr", "CH", "ABSENT"}));
-  EXPECT_EQ(Line("agent_fr.properties", "ABSENT"), Log());
-}
-
-TEST_F(PropertyLookup, AbsentKeyInOtherAsciiCaseIsNotLoggedAgain) {
-  EXPECT_EQ("(null)\n(null)\n(null)\n",
-            Output({"keep", "agent", "fr", "kept", "Absent", "kept", "ABSENT", "kept", "absent"}));
-  EXPECT_EQ(Line("agent_fr.properties", "Absent"), Log());
-}
-
-TEST_F(PropertyLookup, AbsentKeysThatDifferOutsideAsciiAreTwo) {
-  EXPECT_EQ("(null)\n(null)\n",
-            Output({"keep", "agent", "fr", "kept", "\xC3\xA9", "kept", "\xC3\x89"}));
-  EXPECT_EQ(Line("agent_fr.properties", "\xC3\xA9") + Line("agent_fr.properties", "\xC3\x89"),
-            Log());
-}
-
-TEST_F(PropertyLookup, EachAbsentKeyIsLoggedInTheOrderOfRequests) {
-  EXPECT_EQ("(null)\nBonjour\n(null)\n(null)\n", Output({"keep", "agent", "fr", "kept", "B", "kept",
-                                                         "Hello", "kept", "A", "kept", "b"}));
-  EXPECT_EQ(Line("agent_fr.properties", "B") + Line("agent_fr.properties", "A"), Log());
-}
-
-TEST_F(PropertyLookup, EachTranslatorLogsForItself) {
-  EXPECT_EQ("(null)\n(null)\n(null)\n", Output({"text", "agent", "fr", "ABSENT",     //
-                                                "text", "agent", "fr-CA", "ABSENT",  //
-                                                "text", "agent", "de", "ABSENT"}));
-  EXPECT_EQ(Line("agent_fr.properties", "ABSENT") + Line("agent_fr_CA.properties", "ABSENT") +
-                Line("agent.properties", "ABSENT"),
-            Log());
-}
-
-TEST_F(PropertyLookup, AbsentKeyIsNotLookedUpInOtherFilesOfTheBundle) {
-  EXPECT_EQ("(null)\n(null)\n", Output({"text", "agent", "fr-CA", "OnlyFrench",  //
-                                        "text", "agent", "fr-CA", "OnlyDefault"}));
-  EXPECT_EQ(
-      Line("agent_fr_CA.properties", "OnlyFrench") + Line("agent_fr_CA.properties", "OnlyDefault"),
-      Log());
-}
-
-TEST_F(PropertyLookup, NullKeyIsNotLogged) {
-  EXPECT_EQ("(null)\n", Output({"text", "agent", "fr", "(null)"}));
-  EXPECT_FALSE(tree_.Exists("product/log"));
-}
-
-TEST_F(PropertyLookup, DirectoriesLabelsAndPromptsAreNotLogged) {
-  EXPECT_EQ("(null)\n(null)\nfalse \nfalse \n", Output({"label", "agent", "fr", "ABSENT",        //
-                                                        "directory", "agent", "fr", "ABSENT",    //
-                                                        "prompt", "agent", "fr", "ABSENT", "d",  //
-                                                        "prompt", "agent", "fr", "Hello", "d"}));
-  EXPECT_FALSE(tree_.Exists("product/log"));
-}
 
 struct CopyCase {
   const char* name;
@@ -157,41 +46,6 @@ const CopyCase kCopies[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Lookups, PropertyCopy, testing::ValuesIn(kCopies),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-struct KeyCase {
-  const char* name;
-  std::string key;
-  std::string logged;
-};
-
-void PrintTo(const KeyCase& c, std::ostream* os) { *os << '"' << c.logged << '"'; }
-
-class AbsentKey : public PropertyLookup, public testing::WithParamInterface<KeyCase> {};
-
-TEST_P(AbsentKey, IsOneLineOfTheLog) {
-  EXPECT_EQ("(null)\n(null)\n",
-            Output({"keep", "agent", "fr", "kept", GetParam().key, "kept", GetParam().key}));
-  EXPECT_EQ(Line("agent_fr.properties", GetParam().logged), Log());
-}
-
-const KeyCase kKeys[] = {
-    {"Empty", "", ""},
-    {"Blanks", "  a b  ", "  a b  "},
-    {"LineFeed", "a\nb", "a\\nb"},
-    {"CarriageReturn", "a\rb", "a\\rb"},
-    {"LineEnds", "\r\n\n", "\\r\\n\\n"},
-    {"ForgedLine", "x\n/etc/agent.properties key not found: y",
-     "x\\n/etc/agent.properties key not found: y"},
-    {"BackslashStays", "a\\nb", "a\\nb"},
-    {"Tab", "a\tb", "a\tb"},
-    {"PercentSigns", "%s%n%999999999d", "%s%n%999999999d"},
-    {"EqualsSign", "Hello=Bonjour", "Hello=Bonjour"},
-    {"NotUtf8", "\xFF\xC0", "\xFF\xC0"},
-    {"Long", std::string(50'000, 'x'), std::string(50'000, 'x')},
-};
-
-INSTANTIATE_TEST_SUITE_P(Keys, AbsentKey, testing::ValuesIn(kKeys),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST_F(PropertyLookup, FileThatCannotBeOpenedIsReportedOnceAndItsKeysAreLogged) {
@@ -238,19 +92,6 @@ TEST_F(PropertyLookup, ThreadsShareOneTranslator) {
 TEST_F(PropertyLookup, ThreadsAskForManyLocales) {
   EXPECT_EQ("done\nBonjour\n",
             Output({"locales", "8", "agent", "text", "agent", "fr-x3-4", "Hello"}));
-}
-
-TEST_F(PropertyLookup, ThreadsLogEachAbsentKeyOnceAndInWholeLines) {
-  EXPECT_EQ("(null)\n", Output({"misses", "8", "agent", "fr", "text", "agent", "fr", "ABSENT7"}));
-
-  std::vector<std::string> expected;
-  for (int key = 0; key < 50; ++key) {
-    expected.push_back(Line("agent_fr.properties", "ABSENT" + std::to_string(key)));
-  }
-  std::vector<std::string> lines;
-  std::istringstream log(Log());
-  for (std::string line; std::getline(log, line);) lines.push_back(line + "\n");
-  EXPECT_THAT(lines, UnorderedElementsAreArray(expected));
 }
 
 TEST_F(PropertyLookup, TranslatorTellsWhatItsFileIs) {

@@ -9,15 +9,12 @@
 //   kept KEY                       prints a text of the one kept last
 //   same BUNDLE LOCALE             prints whether GetBundle answers the one kept last again
 //   release                        releases the one kept last
-//   free                           calls FreeCache
 //   label BUNDLE LOCALE KEY        prints a label
 //   prompt BUNDLE LOCALE KEY DEFAULT   prints what GetPrompt answers, and the prompt
 //   directory BUNDLE LOCALE NAME   prints a directory
 //   header BUNDLE LOCALE           prints name, language, country, long name, charset, image
 //                                  directory, direction and prompt suffix, each followed by "|"
 //   id BUNDLE LOCALE               prints the translator's identifier
-//   write FILE TEXT                writes a file
-//   touch FILE SECONDS             sets a file's time of last change, in seconds since 1970
 //   remove FILE                    removes a file
 //   buffer                         gives standard error a large buffer, as some runtimes do
 //   vanish                         ends the process without anything that an orderly end does
@@ -28,21 +25,20 @@
 //   churn COUNT BUNDLE LOCALE KEY FILE   COUNT threads look up a present and absent keys while
 //                                  others change the file's time and call FreeCache; prints "done"
 //
+// Every host knows some more: see host_steps.h.
+//
 // "(null)" as an argument passes a null pointer; a null answer is printed as "(null)". Kept
 // translators are released at the end.
 
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <iostream>
-#include <map>
 #include <string>
 #include <vector>
 
 #include "CKxXlate.h"
 #include "process/host_steps.h"
-#include "tools/arguments.h"
 
 namespace {
 
@@ -56,24 +52,10 @@ class Host {
     CKxXlate::FreeCache();
   }
 
-  bool Do(const std::string& step, const Arguments& arguments) {
-    const auto found = steps_.find(step);
-    if (found == steps_.end()) return false;
-    found->second.action(arguments);
-    return true;
-  }
-
-  std::size_t ArgumentsOf(const std::string& step) const {
-    const auto found = steps_.find(step);
-    return found == steps_.end() ? 0 : found->second.arguments;
-  }
+  /// The steps; they refer to this object.
+  HostSteps Steps();
 
  private:
-  struct Step {
-    std::size_t arguments;
-    std::function<void(const Arguments&)> action;
-  };
-
   static void PrintText(CKxXlate* translator, const std::string& key) {
     Print(translator == nullptr ? nullptr : translator->GetText(Pointer(key)));
     if (translator != nullptr) translator->Release();
@@ -146,7 +128,10 @@ class Host {
   }
 
   std::vector<CKxXlate*> kept_;
-  const std::map<std::string, Step> steps_ = {
+};
+
+HostSteps Host::Steps() {
+  return {
       {"text",
        {3,
         [](const auto& a) { PrintText(CKxXlate::GetBundle(Pointer(a[0]), Pointer(a[1])), a[2]); }}},
@@ -163,15 +148,12 @@ class Host {
       {"kept", {1, [this](const auto& a) { Print(LastKept()->GetText(Pointer(a[0]))); }}},
       {"same", {2, [this](const auto& a) { PrintSame(a); }}},
       {"release", {0, [this](const auto&) { ReleaseLast(); }}},
-      {"free", {0, [](const auto&) { CKxXlate::FreeCache(); }}},
       {"label", {3, [](const auto& a) { PrintLabel(a); }}},
       {"prompt", {4, [](const auto& a) { PrintPrompt(a); }}},
       {"copy", {5, [](const auto& a) { PrintCopy(a); }}},
       {"directory", {3, [](const auto& a) { PrintDirectory(a); }}},
       {"header", {2, [](const auto& a) { PrintHeader(a); }}},
       {"id", {2, [](const auto& a) { PrintId(a); }}},
-      {"write", {2, [](const auto& a) { WriteFile(a[0], a[1]); }}},
-      {"touch", {2, [](const auto& a) { SetModified(a[0], std::atoll(a[1].c_str())); }}},
       {"remove", {1, [](const auto& a) { std::filesystem::remove(HostPath(a[0])); }}},
       {"buffer", {0, [](const auto&) { std::setvbuf(stderr, nullptr, _IOFBF, 1U << 16U); }}},
       {"vanish", {0, [](const auto&) { std::_Exit(0); }}},
@@ -180,23 +162,11 @@ class Host {
       {"locales", {2, [](const auto& a) { AskForLocalesInThreads(a); }}},
       {"churn", {5, [](const auto& a) { ChurnInThreads(a); }}},
   };
-};
+}
 
 }  // namespace
 
 int main(int count, char** values) {
-  const std::vector<std::string> words = Utf8Arguments(count, values);
   Host host;
-  for (std::size_t at = 0; at < words.size();) {
-    const std::string& step = words[at++];
-    const std::size_t end = at + host.ArgumentsOf(step);
-    if (end > words.size()) return 3;
-    if (!host.Do(step, Arguments(words.begin() + static_cast<std::ptrdiff_t>(at),
-                                 words.begin() + static_cast<std::ptrdiff_t>(end)))) {
-      std::cerr << "unknown step: " << step << '\n';
-      return 3;
-    }
-    at = end;
-  }
-  return 0;
+  return TakeSteps(host.Steps(), count, values);
 }

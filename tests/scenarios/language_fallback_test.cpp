@@ -1,150 +1,16 @@
-// Which of a language's files answers: each row is a tree of files, a request, and all that the
-// translator then says of them.
+// What a language's files say together, and when English answers instead: each row is a tree of
+// files, a request, and all that the translator then says of them.
 
 #include <gtest/gtest.h>
 
 #include <map>
-#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
 
-#include "core/language_cache.h"
-#include "lang/interned_strings.h"
-#include "support/lasting_log.h"
-#include "support/temp_tree.h"
+#include "scenarios/language_files.h"
 
 namespace {
-
-struct Request {
-  const char* name;
-  const char* language;
-  const char* country;
-};
-
-constexpr Request kFrench = {"agent", "fr", nullptr};
-constexpr Request kCanadian = {"agent", "fr", "ca"};
-
-struct ReleaseTranslator {
-  void operator()(CKxXlate* translator) const { translator->Release(); }
-};
-using Held = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
-class LanguageFiles : public testing::Test {
- protected:
-  ~LanguageFiles() override { cache_.Clear(); }
-
-  void Write(const std::string& path, const std::string& bytes) {
-    tree_.Write("lang/" + path, bytes);
-  }
-
-  /// The request's language or, when there is none, English.
-  Held Find(const Request& request) {
-    Held found(cache_.FindOrLoad(request.name, request.language, request.country));
-    if (found == nullptr) found.reset(cache_.FindOrLoad(request.name, "EN", nullptr));
-    return found;
-  }
-
-  /// Long name, charset, images, direction and prompt suffix.
-  static std::string HeaderOf(CKxXlate& translator) {
-    std::string header;
-    for (const char* value :
-         {translator.GetLongName(), translator.GetCharset(), translator.GetImageDirectory(),
-          translator.GetDirection(), translator.GetPromptSuffix()}) {
-      header += (value == nullptr ? std::string("-") : value) + "|";
-    }
-    return header;
-  }
-
-  std::string Log() const { return tree_.Read("log/translate.log"); }
-
- private:
-  TempTree tree_;
-  kx::LanguagePaths paths_{true, tree_.Path(), tree_.Path("lang") + "/"};
-  kx::InternTable strings_;
-  std::uint32_t nextId_ = 1;
-  kx::CRealKxXlateCache cache_{kx::LanguageContext{paths_, strings_, nextId_, LastingLog()}};
-};
-
-// Files that all say everything: one of them wins
-
-struct PrecedenceCase {
-  const char* name;
-  std::vector<std::string> files;
-  Request request;
-  std::string winner;
-};
-
-void PrintTo(const PrecedenceCase& c, std::ostream* os) { *os << c.winner; }
-
-class LanguagePrecedence : public LanguageFiles,
-                           public testing::WithParamInterface<PrecedenceCase> {};
-
-TEST_P(LanguagePrecedence, AnswersFromTheMostSpecificFile) {
-  const PrecedenceCase& c = GetParam();
-  for (const std::string& file : c.files) {
-    Write(file, "Name " + file + "\nImages " + file + "\nCharset UTF-8\nPrompt Suffix " + file +
-                    "\nDirectory K " + file + "\n\nKey K\nValue " + file + "\nButton K\nLabel " +
-                    file + "\n");
-  }
-  const Held translator = Find(c.request);
-  ASSERT_NE(nullptr, translator);
-  EXPECT_EQ(c.winner, translator->GetText("K"));
-  EXPECT_EQ(c.winner, translator->GetLabel("K"));
-  EXPECT_EQ(c.winner, translator->GetDirectory("K"));
-  EXPECT_EQ(c.winner + "|UTF-8|" + c.winner + "||" + c.winner + "|", HeaderOf(*translator));
-  EXPECT_EQ("(no file)", Log());
-}
-
-const char* const kCommon = "FR/(Common).lang";
-const char* const kNamed = "FR/agent.lang";
-const char* const kCommonOfCountry = "FR-CA/(Common).lang";
-const char* const kNamedOfCountry = "FR-CA/agent.lang";
-const std::vector<std::string> kAllFour = {kCommon, kNamed, kCommonOfCountry, kNamedOfCountry};
-
-const PrecedenceCase kPrecedence[] = {
-    {"AllFour", kAllFour, kCanadian, kNamedOfCountry},
-    {"CommonOfCountryBeforeNamed",
-     {kCommon, kNamed, kCommonOfCountry},
-     kCanadian,
-     kCommonOfCountry},
-    {"NamedBeforeCommon", {kCommon, kNamed}, kCanadian, kNamed},
-    {"NamedOfCountryBeforeCommonOfCountry",
-     {kCommonOfCountry, kNamedOfCountry},
-     kCanadian,
-     kNamedOfCountry},
-    {"CommonAlone", {kCommon}, kCanadian, kCommon},
-    {"NamedAlone", {kNamed}, kCanadian, kNamed},
-    {"CommonOfCountryAlone", {kCommonOfCountry}, kCanadian, kCommonOfCountry},
-    {"NamedOfCountryAlone", {kNamedOfCountry}, kCanadian, kNamedOfCountry},
-    {"WithoutCountryItsFilesAreNotRead", kAllFour, kFrench, kNamed},
-    {"EmptyCountryIsNone", {kNamed, "FR-/agent.lang"}, {"agent", "fr", ""}, kNamed},
-    {"FilesOfOtherComponentsAreNotRead", {kCommon, "FR/other.lang"}, kFrench, kCommon},
-    {"FilesOfOtherCountriesAreNotRead", {kNamed, "FR-BE/agent.lang"}, kCanadian, kNamed},
-    {"EmptyNameReadsTheCommonFiles", kAllFour, {"", "fr", "ca"}, kCommonOfCountry},
-    {"CodesAreFoundInCapitals",
-     {kNamedOfCountry, "fr-ca/agent.lang", "Fr/agent.lang"},
-     {"agent", "Fr", "cA"},
-     kNamedOfCountry},
-    {"NamesAreFoundAsGiven", {kNamed, "FR/Agent.lang"}, {"Agent", "fr", nullptr}, "FR/Agent.lang"},
-    {"EmptyLanguageReadsTheTop",
-     {"(Common).lang", "agent.lang"},
-     {"agent", "", nullptr},
-     "agent.lang"},
-    {"EmptyLanguageWithCountry",
-     {"agent.lang", "-AT/agent.lang"},
-     {"agent", "", "at"},
-     "-AT/agent.lang"},
-    {"EnglishOfACountry",
-     {"EN/agent.lang", "EN-US/agent.lang"},
-     {"agent", "en", "us"},
-     "EN-US/agent.lang"},
-};
-
-INSTANTIATE_TEST_SUITE_P(Trees, LanguagePrecedence, testing::ValuesIn(kPrecedence),
-                         [](const auto& row) { return std::string(row.param.name); });
-
-// Files that say different things
 
 struct FallbackCase {
   const char* name;

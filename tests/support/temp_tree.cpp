@@ -8,6 +8,8 @@
 #include <system_error>
 #include <vector>
 
+#include "support/modified_time.h"
+
 std::filesystem::path PathFromUtf8(std::string_view text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
@@ -57,6 +59,10 @@ void TempTree::Write(std::string_view relative, std::string_view bytes) const {
 
 void TempTree::MakeDirectory(std::string_view relative) const {
   std::filesystem::create_directories(root_ / PathFromUtf8(relative));
+}
+
+void TempTree::SetModified(std::string_view relative, std::chrono::nanoseconds since1970) const {
+  SetModifiedTime(Path(relative), since1970);
 }
 
 std::string TempTree::Read(std::string_view relative) const {

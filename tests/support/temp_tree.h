@@ -1,6 +1,7 @@
 #ifndef KX_TESTS_SUPPORT_TEMP_TREE_H
 #define KX_TESTS_SUPPORT_TEMP_TREE_H
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -23,6 +24,9 @@ class TempTree {
   void Write(std::string_view relative, std::string_view bytes) const;
 
   void MakeDirectory(std::string_view relative) const;
+
+  /// Sets the time of the last change of a file that is there.
+  void SetModified(std::string_view relative, std::chrono::nanoseconds since1970) const;
 
   /// The bytes of a file; "(no file)" when there is none.
   std::string Read(std::string_view relative) const;
