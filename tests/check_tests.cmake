@@ -4,6 +4,9 @@ find_package(Python3 REQUIRED COMPONENTS Interpreter)
 add_test(NAME Sources.KeepTheirLayers
   COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/check_includes.py)
 
+add_test(NAME Sources.AreNoLongerThan300Lines
+  COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/check_lengths.py)
+
 if(WIN32)
   add_test(NAME Library.ExportsAndNeedsTheAgreedAndNothingElse
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_windows_library.py

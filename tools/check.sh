@@ -9,8 +9,9 @@ listed=$(git ls-files '*.h' '*.cpp')
 mapfile -t sources <<<"$listed"
 echo "Format of ${#sources[@]} files."
 clang-format --dry-run -Werror "${sources[@]}"
-echo "Layers, platform conditionals, plain ASCII."
+echo "Layers, platform conditionals, plain ASCII, lengths."
 tools/check_includes.py
+tools/check_lengths.py
 echo "Lints."
 quietly cmake --preset clang -DCMAKE_EXPORT_COMPILE_COMMANDS=ON
 listed=$(git ls-files 'src/*.cpp' 'tools/*.cpp' ':!*_win32.cpp')
