@@ -21,6 +21,13 @@ else()
   find_program(KXXLATE_CLANG clang++ REQUIRED)
   add_test(NAME Sources.KeepTheSlotsForMicrosoftsCompiler
     COMMAND ${PROJECT_SOURCE_DIR}/tools/check_slots.sh ${KXXLATE_CLANG})
+  # Of all compilers this one warns of most in the hosts that include a header.
+  foreach(standard IN ITEMS 17 20)
+    add_test(NAME Headers.MessagesAreCopiedWithoutAWarningInCxx${standard}
+      COMMAND ${KXXLATE_CLANG} -std=c++${standard} -fsyntax-only -I ${PROJECT_SOURCE_DIR}/include
+        -Wall -Wextra -Wpedantic -Wdeprecated -Wdeprecated-copy-dtor -Werror
+        ${CMAKE_CURRENT_SOURCE_DIR}/abi/copying_host.cpp)
+  endforeach()
 endif()
 
 # The consumer is built as this project is, and run in the same way.

@@ -19,6 +19,7 @@ kxxlate_unit_test(message_test
   core/format_arguments_test.cpp
   core/format_fixture.h
   core/format_test.cpp
+  core/message_copy_test.cpp
   core/message_text_test.cpp
   core/xlate_fields_test.cpp
   platform/admin_locale_test.cpp)

@@ -29,6 +29,7 @@ kxxlate_unit_test(allocation_test
   core/bundle_allocation_failure_test.cpp
   core/counted_new.cpp
   core/counted_new.h
+  core/message_memory_test.cpp
   core/translator_memory_test.cpp)
 
 kxxlate_host_test(language_process_test

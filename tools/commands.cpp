@@ -14,10 +14,10 @@ namespace {
 
 constexpr std::size_t kMostFormatArguments = 16;  // CKxXlate::Format uses no more
 
-struct ReleaseTranslator {
+struct GiveReferenceBack {
   void operator()(CKxXlate* translator) const { translator->Release(); }
 };
-using Translator = std::unique_ptr<CKxXlate, ReleaseTranslator>;
+using Translator = std::unique_ptr<CKxXlate, GiveReferenceBack>;
 
 /// Whether no file stands behind the translator: the library answers an empty English one for any
 /// name. (A language file has at least one line of header.)
@@ -97,14 +97,10 @@ ExitCode Format(const Request& request) {
   for (const std::string& argument : request.arguments) message.args += argument + '\0';
   message.argCount = request.arguments.size();
   std::cout << CKxXlate::Format(&message, request.key.c_str()) << '\n';
-  const Translator translator(message.translator);
-  if (translator == nullptr) return NoBundle(request);
-  // A resolution leaves a reference more than the message owns.
-  const Translator surplus(message.translator);
-  if (translator->GetText(request.key.c_str()) == nullptr) {
-    return PrintFound(request, "key", nullptr);
-  }
-  return kFound;
+  if (message.translator == nullptr) return NoBundle(request);
+  const bool found = message.translator->GetText(request.key.c_str()) != nullptr;
+  ReleaseTranslator(message);
+  return found ? kFound : PrintFound(request, "key", nullptr);
 }
 
 ExitCode Label(const Request& request) {
