@@ -90,8 +90,9 @@ class KXXLATE_API CKxXlate {
   //                 or "" if that is null, and false
   //   GetLabel      the button label of `key` (any case); null, or "" and false, when absent
   //
-  // Null keys are never found. A key that is not found is written to the log, once for each
-  // translator and kind of lookup.
+  // Null keys are never found, nor are empty ones in language files. A key that is not found is
+  // kept and logged, once for each translator and kind of lookup (of property bundles only texts,
+  // without language files nothing), without bound: a host should look up no strangers' keys.
 #if defined(_MSC_VER)
   virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;              // 12
   virtual const char* GetDirectory(const char* name) = 0;                               // 11
@@ -127,22 +128,30 @@ class KXXLATE_API CKxXlate {
   ///
   /// @param name    bundle name, in its exact case; null or "" answers null
   /// @param locale  "fr", "fr-CA" or "fr_CA", in any case; null or "" asks for a property bundle's
-  ///                default or for English language files
+  ///                default or for English language files. "-" and "_" are not always the same:
+  ///                agent_fil_PH.properties answers fil_PH, not fil-PH; hy_fr-CA is the language
+  ///                hy_fr in CA, hy-fr-CA the language hy.
   /// @return a translator with one reference for the caller, to be given back with Release; null
   ///         only for an absent name
   ///
   /// Any thread, at any time. A property file is read by the first call for it, while other callers
   /// of that file wait, and never again. The first call for a language, and the first after one of
   /// its files changed, reads files while all other language lookups of the process wait; a
-  /// language already read costs up to four file-status calls, and one without files is looked for
-  /// again by each call. What was read for a locale is kept until FreeCache, so a host should pass
-  /// no strangers' locales that it does not know.
+  /// language already read costs up to four file-status calls.
+  ///
+  /// A language is read anew when a file that it was read from has vanished, or has another time of
+  /// last change (to the finest unit that the system gives) or another size; a file that was not
+  /// there is not looked for. A language without any file is looked for again by each call, but not
+  /// English, nor one whose files have all vanished: these have no texts until FreeCache. A file
+  /// that cannot be opened for the moment, as when another program keeps it to itself, settles
+  /// nothing: a language keeps the translator that it has, and the next call tries again. What was
+  /// read for a locale is kept until FreeCache, so a host should pass only locales that it knows.
   ///
   /// Problems in the files go to translate.log or, for property files, to standard error. Throws
   /// std::bad_alloc only.
   static CKxXlate* GetBundle(const char* name, const char* locale);
 
-  /// As GetBundle, for a language and a region given apart.
+  /// As GetBundle, for a language and a region given apart; "-" joins them for property bundles.
   ///
   /// @param name      the bundle's name, in its exact case; null or "" answers null
   /// @param language  null or "" means "en"
@@ -152,7 +161,8 @@ class KXXLATE_API CKxXlate {
   /// Drops the library's own references on the translators read from language files, so that those
   /// that no caller holds are destroyed. Later lookups read the files anew.
   ///
-  /// For hosts that unload the library or count what is left at their end; nothing else needs it.
+  /// For hosts whose language files are added or come back while they run (GetBundle says which are
+  /// not found otherwise), that have asked for many locales, or that unload the library.
   /// Translators of property bundles stay. Any thread, at any time.
   static void FreeCache();
 
@@ -199,20 +209,19 @@ class KXXLATE_API CKxXlate {
   /// Finds the text of a message, inserts its arguments and answers the result.
   ///
   /// The first call for an object looks its translator up (GetBundle with the object's bundle name
-  /// and locale) and keeps it in the object, also when there is none; later calls use it until the
-  /// host clears `resolved`. A key that the translator lacks is itself the text, so the user sees
+  /// and locale) and keeps it in the object, also when there is none; later calls use it until
+  /// `resolved` is cleared. A key that the translator lacks is itself the text, so the user sees
   /// the key with its arguments inserted.
   ///
   /// @param xlate  read and updated; null answers null. At most 16 of its arguments are used, and
-  ///               none that `args` does not hold.
+  ///               none that begins behind the terminator of `args`.
   /// @param key    null is the empty text
   /// @return the text of the object's `output`, valid until it is formatted again or destroyed
   ///
-  /// Each lookup of the translator leaves one reference more than the object owns: a host that
-  /// wants the translator destroyed in the end gives that back, too.
-  ///
-  /// Any thread, but one object must not be formatted by two threads at once. Throws
-  /// std::bad_alloc, and what the virtual operations of the object's texts throw.
+  /// Each lookup of the translator leaves two references, the object's own and one more, which
+  /// ReleaseTranslator (Xlate.h) gives back; without it the translator is never destroyed. Any
+  /// thread, but one object must not be formatted by two threads at once. Throws std::bad_alloc,
+  /// and what the virtual operations of the object's texts throw.
   static const char* Format(Xlate* xlate, const char* key);
 
   /// Inserts typed values into a message text, by the numbers of its conversions.
@@ -220,16 +229,19 @@ class KXXLATE_API CKxXlate {
   /// The conversions %d %i (int), %o %x (unsigned), %f (double) and %s (terminated text) are each
   /// followed by ":" and a digit from 1 to 9: "%d:2 items in %s:1". The values are taken in the
   /// order in which the conversions stand in the text; the digit says which of them, counted in
-  /// that order, is inserted in its place. Whatever else begins with "%" takes no value and
-  /// vanishes, with the byte behind it; so does a conversion without its digit. A tenth conversion
-  /// takes no value.
+  /// that order, is inserted in its place. A conversion without its digit takes its value all the
+  /// same and vanishes with the byte behind it, or with two if the first is ":". Whatever else
+  /// begins with "%" takes no value and vanishes with the byte behind it. A tenth conversion takes
+  /// none.
   ///
   /// @param buffer  filled with zeros, then with the result, cut to `size` - 1 bytes; a null
   ///                buffer or a size of 0 writes nothing
   /// @param format  the text; null is the empty text
   ///
-  /// The values must have the types that the text says. A null text counts as empty. Reentrant,
-  /// takes no lock. Throws std::bad_alloc only.
+  /// CAUTION: the values must be those that the text says, in number and type. Nothing can check
+  /// that, and a %s that meets a number may end the host: who writes texts for this function or the
+  /// next must be trusted like who writes the host. A null text counts as empty. Reentrant, takes
+  /// no lock. Throws std::bad_alloc only.
   ///
   ///     char line[64];
   ///     CKxXlate::InsertVariable(line, sizeof line, "%s:1 has %d:2 files", "disk", 12);
@@ -239,8 +251,10 @@ class KXXLATE_API CKxXlate {
   ///
   /// A conversion is that of printf, with flags, width, precision and length, and ends with one of
   /// c d i o p u x f s. ":" and a digit behind it number its value from 1 (0 is the tenth), so that
-  /// translations can reorder and repeat values; one without takes the next value. There is no
-  /// "%%": docs/markers.md has all the rules.
+  /// translations can reorder and repeat values. One without takes the value behind that of the
+  /// last one without (the first of them the first value), whatever numbered ones take. A value
+  /// that none takes is stepped over, on Linux only if it is no floating value. There is no "%%":
+  /// docs/markers.md has all the rules.
   ///
   /// @param arguments  the values, which must have the types that the conversions say; used up
   ///
@@ -253,9 +267,16 @@ class KXXLATE_API CKxXlate {
   ///
   /// The directory is read now: files that come or go later are not noticed. It need not exist; one
   /// without bundle files is a directory without bundles. Translators handed out before keep
-  /// working.
+  /// working. Language files are looked for here, too, if none have been looked for yet;
+  /// docs/lang-files.md has the exception.
   ///
-  /// @param directory  UTF-8; null answers false
+  /// When it was loaded the library searched for a directory by itself (README.md), in a program
+  /// with more rights than its caller (set-user-ID, set-group-ID, file capabilities) only near the
+  /// executable: environment and working directory are the caller's choice. Nothing tells it so.
+  ///
+  /// @param directory  UTF-8; null answers false. A relative path is followed anew whenever a file
+  ///                   is opened or looked at: a host that changes its working directory passes a
+  ///                   full one, also where the library found "./resources" by itself.
   /// @return false, with nothing changed, when a directory has been replaced before: the process
   ///         can replace one directory, once. (If none was found when the library was loaded, the
   ///         first call replaces nothing and a second one can succeed.)
