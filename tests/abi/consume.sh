@@ -17,8 +17,11 @@ while [ "$1" != -- ]; do
 done
 shift
 
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
+top=$(mktemp -d)
+trap 'rm -rf "$top"' EXIT
+# So deep that no program here has a directory above it in which others left catalogues.
+scratch=$top/of/one/test
+mkdir -p "$scratch"
 # A user's folder has a blank in its name, and letters outside the code pages of the West.
 folder=$scratch/$'unpacked \303\274\346\227\245'
 case $how in

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,11 @@ inline std::vector<std::string> Steps(const std::vector<std::vector<std::string>
 /// Lets hosts look for language files in a tree.
 class LanguageDirectory : public testing::Test {
  protected:
+  LanguageDirectory() = default;
+
+  /// With its tree directly in `directory`.
+  explicit LanguageDirectory(const std::filesystem::path& directory) : tree_(directory) {}
+
   void Provide(const std::string& directory) {
     tree_.Write(directory + "/FR/agent.lang", File(directory));
   }

@@ -3,20 +3,37 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "process/language_directory.h"
-#include "support/set_environment.h"
+#include "support/special_files.h"
 
 namespace {
 
-/// Makes the tree directly in /tmp, wherever others are made.
-struct InTmp {
-  InTmp() { SetVariable("TMPDIR", "/tmp"); }
-};
+/// Whether a host near the top finds nothing in `directory`, which is above it.
+bool IsEmptyToHosts(const std::filesystem::path& directory) {
+  return !std::filesystem::exists(directory / "resources") &&
+         !std::filesystem::exists(directory / "Language");
+}
 
-class LanguageDirectoryNearTheTop : public InTmp, public LanguageDirectory {};
+/// Where trees are made that have but one directory above them. The top itself is no directory to
+/// the search, but nobody except the super-user makes trees there.
+std::filesystem::path PlaceNearTheTop() {
+  if (IsEmptyToHosts("/tmp")) return "/tmp";
+  if (IsSuperUser()) return "/";
+  throw std::runtime_error(
+      "hosts near the top of the file system find the \"resources\" or \"Language\" in /tmp: "
+      "rename it, "
+      "or run this test as the super-user");
+}
+
+class LanguageDirectoryNearTheTop : public LanguageDirectory {
+ protected:
+  LanguageDirectoryNearTheTop() : LanguageDirectory(PlaceNearTheTop()) {}
+};
 
 TEST_F(LanguageDirectoryNearTheTop, IsNamedLanguageBesideTheExecutable) {
   Provide("Language");

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "support/host_tree.h"
@@ -13,6 +14,11 @@ inline constexpr char kHostDirectory[] = "product/a/b/c/d";
 /// Lets hosts find texts in a tree, and tells from where a host got its own.
 class ResourceSearch : public testing::Test {
  protected:
+  ResourceSearch() = default;
+
+  /// With its tree directly in `directory`.
+  explicit ResourceSearch(const std::filesystem::path& directory) : tree_(directory) {}
+
   /// Makes a "resources" in `directory`, whose bundle tells that it was this one.
   void Provide(const std::string& directory) {
     tree_.Write(directory + "/resources/agent_fr.properties", "Origin=" + directory + "\n");

@@ -17,6 +17,10 @@ std::string HostProgram() { return KXXLATE_HOST_PROGRAM; }
 
 HostTree::HostTree() { SetWorkingDirectory("work"); }
 
+HostTree::HostTree(const std::filesystem::path& directory) : TempTree(directory) {
+  SetWorkingDirectory("work");
+}
+
 void HostTree::SetEnvironment(const std::string& name, const std::string& value) {
   environment_[name] = value;
 }

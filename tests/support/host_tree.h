@@ -1,6 +1,7 @@
 #ifndef KX_TESTS_SUPPORT_HOST_TREE_H
 #define KX_TESTS_SUPPORT_HOST_TREE_H
 
+#include <filesystem>
 #include <map>
 #include <string>
 #include <string_view>
@@ -24,6 +25,9 @@ struct HostRun {
 class HostTree : public TempTree {
  public:
   HostTree();
+
+  /// Directly in `directory`.
+  explicit HostTree(const std::filesystem::path& directory);
 
   void SetEnvironment(const std::string& name, const std::string& value);
 

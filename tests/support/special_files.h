@@ -12,8 +12,8 @@ void MakeNamedPipe(const std::string& path);
 /// Whether this process may do anything, whatever the permissions of a file say.
 bool IsSuperUser();
 
-/// While it lives, a file or directory has permissions (the same for all users) that bind this
-/// process, too: the super-user becomes another user meanwhile.
+/// While it lives, a file or directory has permissions that bind this thread, too: the super-user
+/// gives up meanwhile what lifts them. The same for all users, they bind whoever owns the file.
 class Restricted {
  public:
   Restricted(const std::string& path, std::filesystem::perms permissions);
@@ -23,7 +23,6 @@ class Restricted {
 
  private:
   const std::filesystem::path path_;
-  const bool isSuperUser_;
 };
 
 #endif  // KX_TESTS_SUPPORT_SPECIAL_FILES_H

@@ -11,8 +11,7 @@ void MakeNamedPipe(const std::string& /*path*/) {
 
 bool IsSuperUser() { return false; }
 
-Restricted::Restricted(const std::string& /*path*/, std::filesystem::perms /*permissions*/)
-    : isSuperUser_(false) {
+Restricted::Restricted(const std::string& /*path*/, std::filesystem::perms /*permissions*/) {
   throw std::logic_error("this system's permissions are others");
 }
 

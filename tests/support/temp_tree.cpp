@@ -10,23 +10,42 @@
 
 #include "support/modified_time.h"
 
+namespace {
+
+/// Three directories, since the library looks beside a program and in three more above.
+constexpr char kBelowTop[] = "of/one/test";
+
+std::filesystem::path NewDirectoryIn(const std::filesystem::path& directory) {
+  std::random_device random;
+  std::filesystem::path made;
+  do {
+    made = directory / ("kxxlate-" + std::to_string(random()));
+  } while (!std::filesystem::create_directory(made));
+  return made;
+}
+
+}  // namespace
+
 std::filesystem::path PathFromUtf8(std::string_view text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-TempTree::TempTree() {
-  std::random_device random;
-  do {
-    root_ = std::filesystem::temp_directory_path() / ("kxxlate-" + std::to_string(random()));
-  } while (!std::filesystem::create_directory(root_));
+// Without links, as the system tells a program's place.
+TempTree::TempTree()
+    : top_(NewDirectoryIn(std::filesystem::canonical(std::filesystem::temp_directory_path()))),
+      root_(top_ / kBelowTop) {
+  std::filesystem::create_directories(root_);
 }
+
+TempTree::TempTree(const std::filesystem::path& directory)
+    : top_(NewDirectoryIn(directory)), root_(top_) {}
 
 TempTree::~TempTree() {
   // Not remove_all, which on Windows tries for ever when a file is still open, as a log always is.
   using Entries = std::filesystem::recursive_directory_iterator;
   std::error_code ignored;  // a test that failed may have left something that cannot be removed
-  std::vector<std::filesystem::path> found = {root_};
-  for (Entries entry(root_, ignored); entry != Entries(); entry.increment(ignored)) {
+  std::vector<std::filesystem::path> found = {top_};
+  for (Entries entry(top_, ignored); entry != Entries(); entry.increment(ignored)) {
     found.push_back(entry->path());
   }
   // What lies in a directory was found behind it.

@@ -9,7 +9,13 @@
 /// A directory of its own for one test; removed with all its contents at the end.
 class TempTree {
  public:
+  /// So deep below the directory for temporary files that all the directories in which the library
+  /// looks above a program of the tree are the tree's own, whatever else lies there.
   TempTree();
+
+  /// Directly in `directory`.
+  explicit TempTree(const std::filesystem::path& directory);
+
   ~TempTree();
   TempTree(const TempTree&) = delete;
   TempTree& operator=(const TempTree&) = delete;
@@ -34,6 +40,7 @@ class TempTree {
   bool Exists(std::string_view relative) const;
 
  private:
+  std::filesystem::path top_;  ///< what is removed
   std::filesystem::path root_;
 };
 
