@@ -23,7 +23,8 @@ int main(int count, char** values) {
   const auto getBundle =
       reinterpret_cast<GetBundleEntry>(::dlsym(library, "_ZN8CKxXlate9GetBundleEPKcS1_"));
   CKxXlate* translator = getBundle(values[2], values[3]);
-  std::puts(translator->GetText(values[4]));
+  const char* text = translator->GetText(values[4]);
+  std::puts(text == nullptr ? "(null)" : text);
   // Taken while the library lives: it never frees property translators, so none is destroyed here.
   translator->Release();
   ::dlclose(library);

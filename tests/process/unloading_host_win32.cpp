@@ -32,7 +32,8 @@ int main(int count, char** values) {
     return 3;
   }
   CKxXlate* translator = FindGetBundle(library)(words[1].c_str(), words[2].c_str());
-  std::puts(translator->GetText(words[3].c_str()));
+  const char* text = translator->GetText(words[3].c_str());
+  std::puts(text == nullptr ? "(null)" : text);
   // Taken while the library lives: it never frees property translators, so none is destroyed here.
   translator->Release();
   ::FreeLibrary(library);
