@@ -30,6 +30,7 @@ kxxlate_unit_test(allocation_test
   core/counted_new.cpp
   core/counted_new.h
   core/message_memory_test.cpp
+  core/install_allocation_failure_test.cpp
   core/translator_memory_test.cpp)
 
 kxxlate_host_test(language_process_test

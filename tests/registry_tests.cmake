@@ -26,4 +26,16 @@ endif()
 kxxlate_host_test(property_process_test
   process/property_lookup.h
   process/property_lookup_test.cpp
-  process/property_misses_test.cpp)
+  process/property_misses_test.cpp
+  process/property_shortage_test.cpp)
+
+# Replaces operator new, which the library has to take, too.
+kxxlate_host_program(starving_host
+  process/starving_host.cpp
+  support/failing_new.cpp
+  support/failing_new.h)
+target_link_libraries(starving_host PRIVATE kxxlate_objects kxxlate_platform)
+target_compile_definitions(starving_host PRIVATE KXXLATE_BUILDING)
+add_dependencies(property_process_test starving_host)
+target_compile_definitions(property_process_test PRIVATE
+  KXXLATE_STARVING_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:starving_host>")

@@ -38,6 +38,17 @@ else()
     platform/passing_failures_posix_test.cpp)
 endif()
 
+if(NOT WIN32)
+  # Stands in front of the system's functions, so apart from all the others.
+  kxxlate_unit_test(system_calls_test
+    platform/entry_list.h
+    platform/stream_bytes.h
+    platform/system_calls_posix_test.cpp
+    support/system_calls.h
+    support/system_calls_posix.cpp)
+  target_link_libraries(system_calls_test PRIVATE ${CMAKE_DL_LIBS})
+endif()
+
 kxxlate_host_test(process_test
   process/log_location_test.cpp
   process/resource_replacement_test.cpp
@@ -49,6 +60,7 @@ if(WIN32)
 else()
   target_sources(process_test PRIVATE
     process/closed_streams_posix_test.cpp
+    process/long_path_posix_test.cpp
     process/resource_search_posix_test.cpp)
 endif()
 add_dependencies(process_test unloading_host)

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstddef>
 #include <latch>
 #include <string>
 #include <string_view>
@@ -10,6 +11,10 @@
 #include "bundles/bundle_of_files.h"
 
 namespace {
+
+// As they are promised, whatever the code says.
+constexpr std::size_t kLongestRemembered = 64;
+constexpr std::size_t kMostRemembered = 4096;
 
 class BundleMemory : public BundleOfFiles {};
 
@@ -89,7 +94,7 @@ std::string FrenchOfLength(std::size_t bytes) { return "fr-" + std::string(bytes
 
 TEST_F(BundleMemory, LocaleOfTheLongestLengthIsRemembered) {
   Add({"", "fr"});
-  const std::string locale = FrenchOfLength(bnd::kMaxRememberedLocaleBytes);
+  const std::string locale = FrenchOfLength(kLongestRemembered);
 
   EXPECT_EQ("msg_fr", Answer(locale));
   EXPECT_EQ("msg_fr", PathOf(Known(locale)));
@@ -97,7 +102,7 @@ TEST_F(BundleMemory, LocaleOfTheLongestLengthIsRemembered) {
 
 TEST_F(BundleMemory, LongerLocaleIsAnsweredButNotRemembered) {
   Add({"", "fr"});
-  const std::string locale = FrenchOfLength(bnd::kMaxRememberedLocaleBytes + 1);
+  const std::string locale = FrenchOfLength(kLongestRemembered + 1);
 
   for (int request = 0; request < 3; ++request) {
     Entry* answer = Ask(locale);
@@ -149,7 +154,7 @@ TEST_F(BundleMemory, LocaleOfHundredThousandPartsIsAnswered) {
 
 TEST_F(BundleMemory, NumberOfRememberedLocalesIsBounded) {
   Add({"", "fr", "fr_CA"});
-  constexpr std::size_t kAsked = bnd::kMaxRememberedLocales + 500;
+  constexpr std::size_t kAsked = kMostRemembered + 500;
   for (std::size_t number = 0; number < kAsked; ++number) {
     ASSERT_EQ("msg_fr", Answer("fr-x" + std::to_string(number)));
   }
@@ -158,12 +163,12 @@ TEST_F(BundleMemory, NumberOfRememberedLocalesIsBounded) {
   for (std::size_t number = 0; number < kAsked; ++number) {
     if (Known("fr-x" + std::to_string(number)) != nullptr) ++remembered;
   }
-  EXPECT_EQ(bnd::kMaxRememberedLocales, remembered);
+  EXPECT_EQ(kMostRemembered, remembered);
 }
 
 TEST_F(BundleMemory, AnswersAreTheSameWhenNothingMoreIsRemembered) {
   Add({"", "fr", "fr_CA", "en"});
-  for (std::size_t number = 0; number < bnd::kMaxRememberedLocales; ++number) {
+  for (std::size_t number = 0; number < kMostRemembered; ++number) {
     ASSERT_EQ("msg", Answer("x" + std::to_string(number)));
   }
 
