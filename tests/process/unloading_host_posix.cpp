@@ -30,5 +30,6 @@ int main(int count, char** values) {
   ::dlclose(library);
   void* again = ::dlopen(values[1], RTLD_NOW | RTLD_NOLOAD);
   std::puts(again == nullptr ? "unloaded" : "still loaded");
+  std::fflush(stdout);  // a leak checker that fails ends the process without that
   return 0;
 }
