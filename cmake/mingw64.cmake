@@ -1,9 +1,12 @@
-# 64-bit Windows from Debian: package g++-mingw-w64-x86-64-posix; wine runs what is built.
+# 64-bit Windows from Debian: package g++-mingw-w64-x86-64-win32; wine runs what is built.
+#
+# Its other thread model, posix, would link a library of threads into the DLL, which uses up one of the
+# 1,088 indices that a process has for the data of its threads: at each load, and for ever.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-win32)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-win32)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
 # Behind what the command line names.

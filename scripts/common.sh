@@ -35,5 +35,7 @@ quietly() {
 
 BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
 TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev)
-WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix googletest wine wine64 python3 binutils)
+# Two thread models of one compiler: the library's, and the one whose std::thread the tests use.
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-posix googletest wine wine64
+  python3 binutils)
 PACKAGING_PACKAGES=(dpkg-dev file)

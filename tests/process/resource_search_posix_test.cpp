@@ -67,7 +67,7 @@ TEST_F(ResourceSearchOnPosix, BelievesNothingOfItsCallerInASetUserIdProgram) {
   // its path takes the copy; what tells the loader another place is not heard in such a program.
   const std::string host = tree_.CopyProgram(kHostDirectory, KXXLATE_UNLOADING_HOST);
   const std::string library = tree_.CopyProgram(kHostDirectory, KXXLATE_LIBRARY);
-  const std::vector<std::string> lookUp = {library, "agent", "fr", "Origin"};
+  const std::vector<std::string> lookUp = {library, "agent", "fr", "Origin", "1"};
   OpenToAllUsers(tree_.Path());
 
   MakeProgramOfAnotherUser(host, false);
