@@ -29,13 +29,15 @@ if(WIN32)
     platform/file_place_windows_test.cpp
     platform/files_windows_test.cpp
     platform/passing_failures_windows_test.cpp
+    platform/standard_stream_windows_test.cpp
     platform/wide_path_windows_test.cpp)
 else()
   target_sources(platform_test PRIVATE
     platform/file_effects_posix_test.cpp
     platform/file_streams_posix_test.cpp
     platform/files_posix_test.cpp
-    platform/passing_failures_posix_test.cpp)
+    platform/passing_failures_posix_test.cpp
+    platform/standard_stream_posix_test.cpp)
 endif()
 
 if(NOT WIN32)
@@ -56,7 +58,14 @@ kxxlate_host_test(process_test
   process/resource_search_test.cpp
   process/unloading_test.cpp)
 if(WIN32)
-  target_sources(process_test PRIVATE process/windows_search_test.cpp)
+  target_sources(process_test PRIVATE
+    process/windows_search_test.cpp
+    process/windows_streams_test.cpp)
+  kxxlate_host_program(streams_host process/streams_host_win32.cpp)
+  target_link_libraries(streams_host PRIVATE KxXlate)
+  add_dependencies(process_test streams_host)
+  target_compile_definitions(process_test PRIVATE
+    KXXLATE_STREAMS_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:streams_host>")
 else()
   target_sources(process_test PRIVATE
     process/closed_streams_posix_test.cpp

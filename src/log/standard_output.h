@@ -3,16 +3,20 @@
 
 #include <ostream>
 #include <streambuf>
+#include <string>
 
 namespace kx {
 
-/// Passes everything on to the C library's standard output, which may be used from any thread;
-/// std::cout may not once a host has unhooked it from stdio.
+/// Collects a text and hands it whole to the process's standard output when it is flushed; what is
+/// not flushed is never written. A text that cannot be written is lost.
 class StandardOutputBuffer final : public std::streambuf {
  protected:
   std::streamsize xsputn(const char* text, std::streamsize size) override;
   int_type overflow(int_type c) override;
   int sync() override;
+
+ private:
+  std::string pending_;
 };
 
 /// The process's standard output as a stream.
