@@ -1,5 +1,6 @@
 # Where the bundles lie, where the log lies, and the platform below both.
 kxxlate_unit_test(search_test
+  bundles/foreign_root_search_test.cpp
   bundles/resource_directory_search_test.cpp
   bundles/resource_directory_test.cpp
   support/fake_machine.h)
@@ -29,6 +30,7 @@ if(WIN32)
     platform/file_place_windows_test.cpp
     platform/files_windows_test.cpp
     platform/passing_failures_windows_test.cpp
+    platform/long_prefix_windows_test.cpp
     platform/standard_stream_windows_test.cpp
     platform/wide_path_windows_test.cpp)
 else()

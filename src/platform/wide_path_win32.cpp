@@ -28,6 +28,11 @@ std::wstring AbsolutePath(const std::wstring& path) {
   }
 }
 
+bool BeginsWithADrive(std::wstring_view path) {
+  if (path.size() < 3 || path[1] != L':' || path[2] != L'\\') return false;
+  return (path[0] >= L'A' && path[0] <= L'Z') || (path[0] >= L'a' && path[0] <= L'z');
+}
+
 }  // namespace
 
 std::wstring ToWide(std::string_view utf8) {
@@ -64,7 +69,9 @@ std::wstring WidePath(const char* path) {
 std::wstring WithoutLongPrefix(std::wstring path) {
   if (path.starts_with(kLongNetworkPrefix))
     return path.replace(0, kLongNetworkPrefix.size(), kNetworkPrefix);
-  return path.starts_with(kLongPrefix) ? path.substr(kLongPrefix.size()) : path;
+  if (!path.starts_with(kLongPrefix)) return path;
+  std::wstring rest = path.substr(kLongPrefix.size());
+  return BeginsWithADrive(rest) ? rest : path;
 }
 
 }  // namespace kx

@@ -17,8 +17,9 @@ std::string ToUtf8(std::wstring_view wide);
 /// file: the name of a device, which on older systems may stand in any directory, and broken UTF-8.
 std::wstring WidePath(const char* path);
 
-/// The path as one writes it. Programs deep in a tree are started by a path with that prefix, and
-/// behind it "/" does not separate.
+/// The path as one writes it: without that prefix in front of a drive or a share, to which programs
+/// deep in a tree are started by a path with it. Elsewhere the prefix stays, as in the path of a
+/// volume that has no drive, which is nothing without it.
 std::wstring WithoutLongPrefix(std::wstring path);
 
 }  // namespace kx

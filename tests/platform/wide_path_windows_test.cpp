@@ -89,13 +89,6 @@ TEST(RelativePath, CountsWithTheWorkingDirectory) {
   std::filesystem::current_path(PathFromUtf8(tree.Path("..")));
 }
 
-TEST(WithoutLongPrefix, IsThePathAsOneWritesIt) {
-  EXPECT_EQ(L"D:\\a", kx::WithoutLongPrefix(L"\\\\?\\D:\\a"));
-  EXPECT_EQ(L"\\\\server\\share\\a", kx::WithoutLongPrefix(L"\\\\?\\UNC\\server\\share\\a"));
-  EXPECT_EQ(L"D:\\a", kx::WithoutLongPrefix(L"D:\\a"));
-  EXPECT_EQ(L"\\\\server\\share\\a", kx::WithoutLongPrefix(L"\\\\server\\share\\a"));
-}
-
 TEST(LocaleFromSystemName, HasNoSortOrder) {
   EXPECT_EQ("es-ES", kx::LocaleFromSystemName(L"es-ES_tradnl"));
   EXPECT_EQ("zh-Hant-TW", kx::LocaleFromSystemName(L"zh-Hant-TW"));
