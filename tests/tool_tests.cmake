@@ -3,7 +3,10 @@ kxxlate_host_test(tool_test
   tools/example_host_test.cpp
   tools/kxxlate_test.cpp)
 if(WIN32)
-  target_sources(tool_test PRIVATE tools/kxxlate_windows_test.cpp)
+  target_sources(tool_test PRIVATE
+    tools/kxxlate_file_windows_test.cpp
+    tools/kxxlate_windows_test.cpp)
+  target_link_libraries(tool_test PRIVATE version)
 endif()
 add_dependencies(tool_test kxxlate example_host)
 target_compile_definitions(tool_test PRIVATE
