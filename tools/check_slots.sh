@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Shows that Microsoft's compiler gives the translators' operations their fixed places, though it
-# orders overloads in a way of its own: clang lays classes out as that compiler does.
+# orders overloads in a way of its own, and sizes and fields what they have elsewhere: clang lays
+# classes out as that compiler does. tests/abi/slot_layout.cpp asserts the sizes.
 #
 # Usage: check_slots.sh [CLANG]
 set -euo pipefail
