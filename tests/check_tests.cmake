@@ -7,6 +7,10 @@ add_test(NAME Sources.KeepTheirLayers
 add_test(NAME Sources.AreNoLongerThan300Lines
   COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/check_lengths.py)
 
+add_test(NAME RunUnderWine.RepeatsOnlyWhatFailedWithoutAWord
+  COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/cmake/run_under_wine_test.py
+    ${PROJECT_SOURCE_DIR}/cmake/run_under_wine.sh)
+
 if(WIN32)
   add_test(NAME Library.ExportsAndNeedsTheAgreedAndNothingElse
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_windows_library.py
