@@ -14,6 +14,9 @@ kxxlate_unit_test(variable_insertion_test
   format/varied_calls.h
   support/failing_new.cpp
   support/failing_new.h)
+if(WIN32)
+  target_sources(variable_insertion_test PRIVATE format/wide_text_windows_test.cpp)
+endif()
 
 kxxlate_unit_test(message_test
   core/format_arguments_test.cpp

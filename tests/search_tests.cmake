@@ -62,7 +62,8 @@ kxxlate_host_test(process_test
 if(WIN32)
   target_sources(process_test PRIVATE
     process/windows_search_test.cpp
-    process/windows_streams_test.cpp)
+    process/windows_streams_test.cpp
+    process/windows_variables_test.cpp)
   kxxlate_host_program(streams_host process/streams_host_win32.cpp)
   target_link_libraries(streams_host PRIVATE KxXlate)
   add_dependencies(process_test streams_host)
