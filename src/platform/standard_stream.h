@@ -9,7 +9,7 @@ enum class StandardStream { kOutput, kErrors };
 
 /// Writes a text whole to the stream that this process has at the moment of the call: a host may
 /// have replaced or closed the one that it was started with. Nothing stays in a buffer. Any thread;
-/// texts of different threads do not mix.
+/// texts of different threads do not mix, but for those too long for one call of a console.
 ///
 /// On Linux the stream is that of the C library, and so the text stands behind what the host has
 /// printed. On Windows it is the system's handle, because the C library that this library uses
