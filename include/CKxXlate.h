@@ -256,6 +256,10 @@ class KXXLATE_API CKxXlate {
   /// that none takes is stepped over, on Linux only if it is no floating value. There is no "%%":
   /// docs/markers.md has all the rules.
   ///
+  /// On every system the lengths are h hh l ll j z t (as in C), L (a long double, which on Windows
+  /// is a double; before integers 64 bits), I64 and I (64 bits), I32, and w before s and c (wide).
+  /// A conversion with another is text, and its value is stepped over as an integer.
+  ///
   /// @param arguments  the values, which must have the types that the conversions say; used up
   ///
   /// Buffer, text and the rest as with InsertVariable. "%n" and "*" do nothing, widths and

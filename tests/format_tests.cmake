@@ -1,21 +1,36 @@
 # Variable insertion, and messages formatted by their keys.
 kxxlate_unit_test(variable_insertion_test
   format/argument_walker_test.cpp
+  format/conversion_test.cpp
   format/format_pieces_test.cpp
   format/insert_variable_model_test.cpp
   format/insert_variable_test.cpp
   format/insert_variable_va_buffer_test.cpp
   format/insert_variable_va_test.cpp
+  format/inserted.h
+  format/printf_flags_test.cpp
+  format/printf_fraction_model_test.cpp
+  format/printf_lengths_test.cpp
+  format/printf_percent_test.cpp
   format/printf_piece_model_test.cpp
   format/printf_piece_test.cpp
+  format/printf_same_bytes_test.cpp
   format/variable_cases.h
   format/variable_copy_test.cpp
   format/variable_memory_test.cpp
   format/varied_calls.h
+  format/wide_text_test.cpp
   support/failing_new.cpp
   support/failing_new.h)
 if(WIN32)
-  target_sources(variable_insertion_test PRIVATE format/wide_text_windows_test.cpp)
+  target_sources(variable_insertion_test PRIVATE
+    format/decimal_point_windows_test.cpp
+    format/long_double_windows_test.cpp
+    format/wide_text_windows_test.cpp)
+else()
+  target_sources(variable_insertion_test PRIVATE
+    format/long_double_posix_test.cpp
+    format/wide_text_posix_test.cpp)
 endif()
 
 kxxlate_unit_test(message_test

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "format/argument_value.h"
+
 namespace kx {
 
 /// How an argument of a variable argument list is read.
@@ -13,17 +15,17 @@ enum class ArgumentKind : std::uint8_t {
   kInt,
   kWord,  ///< a pointer or an integer of 64 bits
   kDouble,
+  kLongDouble,  ///< what hosts pass for "%Lf": see platform/long_double.h
 };
 
 /// Reads arguments by position, one for each of `kinds`.
 ///
 /// The kinds of all arguments must be known before the first is read: on 64-bit Windows each
-/// argument is one place of 8 bytes, but on 64-bit Linux integers and floating values come from
-/// different areas, so that an argument of unknown kind cannot even be skipped.
+/// argument is one place of 8 bytes, but on 64-bit Linux integers, floating values and long ones
+/// come from different areas, so that an argument of unknown kind cannot even be skipped.
 ///
 /// @param arguments  is used up
-/// @return the bytes of each as an unsigned word; those of an int are extended by its sign
-std::vector<std::uint64_t> TakeArguments(const std::vector<ArgumentKind>& kinds,
+std::vector<ArgumentValue> TakeArguments(const std::vector<ArgumentKind>& kinds,
                                          std::va_list arguments);
 
 }  // namespace kx

@@ -1,26 +1,31 @@
 #include <algorithm>
 #include <cstdarg>
-#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "CKxXlate.h"
+#include "format/argument_value.h"
 #include "format/argument_walker.h"
 #include "format/caller_buffer.h"
 #include "format/format_pieces.h"
 #include "format/printf_piece.h"
 
-// CKxXlate::InsertVariableVA. It shares nothing with InsertVariable: the two have different rules.
+// CKxXlate::InsertVariableVA. It shares nothing with InsertVariable but how a fraction is printed:
+// the two have different rules.
 
 namespace {
 
 using kx::ArgumentKind;
 
-/// How to read an argument that two conversions read differently. As floating value when the first
-/// one does, else as a word, which holds the bytes for both.
+bool IsFloating(ArgumentKind kind) {
+  return kind == ArgumentKind::kDouble || kind == ArgumentKind::kLongDouble;
+}
+
+/// How to read an argument that two conversions read differently. As the first one's floating value
+/// when it says so, else as a word, which holds the bytes for both.
 ArgumentKind Merge(ArgumentKind first, ArgumentKind other) {
   if (first == ArgumentKind::kUnread || first == other) return other;
-  if (other == ArgumentKind::kUnread || first == ArgumentKind::kDouble) return first;
+  if (other == ArgumentKind::kUnread || IsFloating(first)) return first;
   return ArgumentKind::kWord;
 }
 
@@ -39,7 +44,7 @@ std::vector<ArgumentKind> KindsOfArguments(const std::vector<kx::FormatPiece>& p
 
 /// Joins no more pieces than the first `size` bytes need: the rest is cut anyway.
 std::string Join(const std::vector<kx::FormatPiece>& pieces,
-                 const std::vector<std::uint64_t>& words, KxSize size) {
+                 const std::vector<kx::ArgumentValue>& values, KxSize size) {
   std::string result;
   for (const kx::FormatPiece& piece : pieces) {
     if (result.size() >= size) break;
@@ -47,8 +52,9 @@ std::string Join(const std::vector<kx::FormatPiece>& pieces,
       result += piece.text;
     } else {
       // A piece without a conversion may have a number past the last argument.
-      const std::uint64_t word = piece.argIndex < words.size() ? words[piece.argIndex] : 0;
-      kx::PrintfPiece(piece.text).AppendTo(result, word);
+      const kx::ArgumentValue none = 0;
+      const bool hasValue = piece.argIndex < values.size();
+      kx::PrintfPiece(piece.text).AppendTo(result, hasValue ? values[piece.argIndex] : none);
     }
   }
   return result;
@@ -59,6 +65,7 @@ std::string Join(const std::vector<kx::FormatPiece>& pieces,
 void CKxXlate::InsertVariableVA(char* buffer, KxSize size, const char* format,
                                 std::va_list arguments) {
   const std::vector<kx::FormatPiece> pieces = kx::CutIntoPieces(format == nullptr ? "" : format);
-  const std::vector<std::uint64_t> words = kx::TakeArguments(KindsOfArguments(pieces), arguments);
-  kx::CopyVariableInsertion(buffer, size, Join(pieces, words, size));
+  const std::vector<kx::ArgumentValue> values =
+      kx::TakeArguments(KindsOfArguments(pieces), arguments);
+  kx::CopyVariableInsertion(buffer, size, Join(pieces, values, size));
 }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cstdarg>
 #include <cstddef>
@@ -7,8 +8,11 @@
 
 #include "CKxXlate.h"
 #include "format/caller_buffer.h"
+#include "format/conversion.h"
+#include "format/print_fraction.h"
 
-// CKxXlate::InsertVariable. It shares nothing with InsertVariableVA: the two have different rules.
+// CKxXlate::InsertVariable. It shares nothing with InsertVariableVA but how a fraction is printed:
+// the two have different rules.
 
 namespace {
 
@@ -19,13 +23,23 @@ bool IsConversion(char c) { return c != '\0' && std::strchr("dfiosx", c) != null
 
 using Slots = std::array<std::string, kSlots>;
 
+/// As "%f" has it on every system.
+std::string FractionText(double value) {
+  kx::Conversion conversion;
+  conversion.letter = 'f';
+  std::string text;
+  kx::AppendFraction(text, conversion, value);
+  text.resize(std::min(text.size(), kNumberBytes - 1));
+  return text;
+}
+
 /// Takes the value of one conversion from the argument list, as text.
 std::string TakeValue(char conversion, std::va_list& arguments) {
   char number[kNumberBytes];
   switch (conversion) {
     case 'o': std::snprintf(number, sizeof number, "%o", va_arg(arguments, unsigned)); break;
     case 'x': std::snprintf(number, sizeof number, "%x", va_arg(arguments, unsigned)); break;
-    case 'f': std::snprintf(number, sizeof number, "%f", va_arg(arguments, double)); break;
+    case 'f': return FractionText(va_arg(arguments, double));
     case 's': {
       const char* text = va_arg(arguments, const char*);
       return text == nullptr ? "" : text;

@@ -26,8 +26,10 @@ constexpr ArgumentKind kDouble = ArgumentKind::kDouble;
 Words TakeFrom(const Kinds* kinds, ...) {
   std::va_list arguments;
   va_start(arguments, kinds);
-  Words words = kx::TakeArguments(*kinds, arguments);
+  const std::vector<kx::ArgumentValue> values = kx::TakeArguments(*kinds, arguments);
   va_end(arguments);
+  Words words;
+  for (const kx::ArgumentValue& value : values) words.push_back(value.Word());
   return words;
 }
 

@@ -1,36 +1,35 @@
-// What becomes of wide texts here. docs/windows.md tells hosts.
+// Wide texts in the locales of the runtime that the library is built with.
 
 #include <gtest/gtest.h>
 
-#include <cstdarg>
+#include <clocale>
 #include <cwchar>
 #include <string>
 
-#include "CKxXlate.h"
+#include "format/inserted.h"
 
 namespace {
 
-std::string Formatted(const char* format, ...) {
-  char buffer[64];
-  std::va_list arguments;
-  va_start(arguments, format);
-  CKxXlate::InsertVariableVA(buffer, sizeof buffer, format, arguments);
-  va_end(arguments);
-  return buffer;
+class WideTextOnWindows : public testing::Test {
+ protected:
+  void TearDown() override { std::setlocale(LC_ALL, "C"); }
+};
+
+// On other systems these become nothing, as what is no ASCII does there.
+TEST_F(WideTextOnWindows, WithoutALocaleLatinLettersAreBytes) {
+  EXPECT_EQ("<caf\xE9|\xFF>", Inserted("<%ls|%lc>", L"caf\xE9", wint_t{0xFF}));
 }
 
-TEST(WideTextOnWindows, OfAsciiIsInserted) {
-  EXPECT_EQ("<abc> <a>", Formatted("<%ls:1> <%lc:2>", L"abc", std::wint_t{L'a'}));
+TEST_F(WideTextOnWindows, HasTheCodePageOfTheLocale) {
+  ASSERT_NE(nullptr, std::setlocale(LC_ALL, ".1252"));
+  EXPECT_EQ("<\x80 \xE9|  \x80> 7", Inserted("<%ls|%3lc> %d", L"\x20AC \xE9", wint_t{0x20AC}, 7));
 }
 
-TEST(WideTextOnWindows, LettersOfLatin1BecomeOneByteEach) {
-  EXPECT_EQ("<a\xE9\xFF> <\xE9>",
-            Formatted("<%ls:1> <%lc:2>", L"a\u00E9\u00FF", std::wint_t{0xE9}));
-}
-
-TEST(WideTextOnWindows, EndsBeforeTheFirstOtherLetter) {
-  EXPECT_EQ("<a> <>", Formatted("<%ls:1> <%lc:2>", L"a\u65E5b", std::wint_t{0x65E5}));
-  EXPECT_EQ("<a>", Formatted("<%ls:1>", L"a\U0001F600"));
+TEST_F(WideTextOnWindows, PrecisionCountsBytesAndCutsNoCharacter) {
+  ASSERT_NE(nullptr, std::setlocale(LC_ALL, ".932"));
+  const wchar_t* const text = L"\x3042\x3042";
+  EXPECT_EQ("<\x82\xA0\x82\xA0|  \x82\xA0|\x82\xA0|>",
+            Inserted("<%ls|%4.3ls|%.2ws|%.1ls>", text, text, text, text));
 }
 
 }  // namespace
