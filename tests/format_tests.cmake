@@ -56,3 +56,8 @@ kxxlate_host_test(format_process_test
 add_dependencies(format_process_test format_host)
 target_compile_definitions(format_process_test PRIVATE
   KXXLATE_FORMAT_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:format_host>")
+
+# What the document says of markers, run against the library.
+kxxlate_host_test(markers_document_test docs/markers_document_test.cpp)
+target_compile_definitions(markers_document_test PRIVATE
+  KXXLATE_MARKERS_DOCUMENT="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}${PROJECT_SOURCE_DIR}/docs/markers.md")
