@@ -253,12 +253,10 @@ class KXXLATE_API CKxXlate {
   /// c d i o p u x f s. ":" and a digit behind it number its value from 1 (0 is the tenth), so that
   /// translations can reorder and repeat values. One without takes the value behind that of the
   /// last one without (the first of them the first value), whatever numbered ones take. A value
-  /// that none takes is stepped over, on Linux only if it is no floating value. There is no "%%":
-  /// docs/markers.md has all the rules.
+  /// that none takes is stepped over, on Linux only if it is no floating value. There is no "%%".
   ///
-  /// On every system the lengths are h hh l ll j z t (as in C), L (a long double, which on Windows
-  /// is a double; before integers 64 bits), I64 and I (64 bits), I32, and w before s and c (wide).
-  /// A conversion with another is text, and its value is stepped over as an integer.
+  /// The lengths are h hh l ll j z t L, and on every system I64 I32 I w; a conversion with another
+  /// is text, and its value stepped over as an integer. docs/markers.md has all the rules.
   ///
   /// @param arguments  the values, which must have the types that the conversions say; used up
   ///
