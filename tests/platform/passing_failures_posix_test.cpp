@@ -11,6 +11,7 @@
 #include <string>
 #include <thread>
 
+#include "platform/file_handle.h"
 #include "platform/file_streams.h"
 #include "platform/stream_bytes.h"
 #include "support/special_files.h"
@@ -63,26 +64,23 @@ TEST_P(PlaceOfAStandardStream, IsNotTakenByAFile) {
 TEST_P(PlaceOfAStandardStream, IsNotLeftOpenWhenNoOtherIsFree) {
   const TempTree tree;
   tree.Write("read", "bytes");
-  bool isOpen;
-  bool mayWorkLater;
+  const std::string path = tree.Path("read");
+  rlimit before;
+  ::getrlimit(RLIMIT_NOFILE, &before);
+  // Only the closed stream's own number is left.
+  const rlimit few = {STDERR_FILENO + 1, before.rlim_max};
+  kx::OpenedFile opened;
   bool isStillClosed;
   {
     const ClosedStream closed(GetParam());
-    rlimit before;
-    ::getrlimit(RLIMIT_NOFILE, &before);
-    // Only the closed stream's own number is left.
-    const rlimit few = {STDERR_FILENO + 1, before.rlim_max};
     ::setrlimit(RLIMIT_NOFILE, &few);
-    CKxIfstream input;
-    KxIfstreamOpen(input, tree.Path("read").c_str());
+    opened = kx::OpenRegularFile(path.c_str());
     ::setrlimit(RLIMIT_NOFILE, &before);
-    isOpen = input.good();
-    mayWorkLater = input.MayWorkLater();
     isStillClosed = closed.IsStillClosed();
   }
-  EXPECT_FALSE(isOpen);
+  EXPECT_EQ(kx::kNoFile, opened.file);
+  EXPECT_TRUE(opened.mayOpenLater);
   EXPECT_TRUE(isStillClosed);
-  EXPECT_TRUE(mayWorkLater);
 }
 
 INSTANTIATE_TEST_SUITE_P(Streams, PlaceOfAStandardStream,

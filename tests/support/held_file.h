@@ -1,12 +1,12 @@
 #ifndef KX_TESTS_SUPPORT_HELD_FILE_H
 #define KX_TESTS_SUPPORT_HELD_FILE_H
 
-#include <cstdint>
+#include <memory>
 #include <string>
 
 /// While it lives, the file `path` is there but cannot be opened, for a reason that passes: on
-/// Windows another holder keeps it to itself; on Linux, where nobody can, this process may open no
-/// more files at all.
+/// Windows another holder keeps it to itself; on Linux, where nobody can, the system says that too
+/// many files are open. One at a time.
 class HeldFile {
  public:
   explicit HeldFile(const std::string& path);
@@ -15,7 +15,8 @@ class HeldFile {
   HeldFile& operator=(const HeldFile&) = delete;
 
  private:
-  std::intptr_t state_;
+  struct State;
+  const std::unique_ptr<State> state_;
 };
 
 #endif  // KX_TESTS_SUPPORT_HELD_FILE_H
