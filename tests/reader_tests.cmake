@@ -14,8 +14,14 @@ kxxlate_unit_test(bundle_reader_test
   bundles/properties_reader_test.cpp
   bundles/properties_rows.h
   bundles/properties_value_test.cpp
-  bundles/property_key_pool_test.cpp
   bundles/utf8_check_test.cpp)
+
+# What both kinds of catalogues keep their texts in.
+kxxlate_unit_test(texts_test
+  texts/folded_key_test.cpp
+  texts/key_table_test.cpp
+  texts/line_reader_test.cpp
+  texts/noted_keys_test.cpp)
 
 kxxlate_unit_test(platform_text_test
   platform/ascii_case_test.cpp

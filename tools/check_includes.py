@@ -14,9 +14,10 @@ MAY_INCLUDE = {
     "platform": set(),
     "log": {"platform"},
     "format": {"platform"},
-    "lang": {"platform", "log", "format"},
-    "bundles": {"platform", "log", "format"},
-    "core": {"platform", "log", "format", "lang", "bundles"},
+    "texts": {"platform"},
+    "lang": {"platform", "log", "format", "texts"},
+    "bundles": {"platform", "log", "format", "texts"},
+    "core": {"platform", "log", "format", "texts", "lang", "bundles"},
 }
 PUBLIC_USERS = {"format", "lang", "bundles", "core"}
 

@@ -1,7 +1,6 @@
 #include "bundles/properties_reader.h"
 
-#include <cstring>
-#include <istream>
+#include <string>
 
 #include "bundles/utf8_check.h"
 #include "platform/file_streams.h"
@@ -10,8 +9,7 @@
 namespace kx {
 namespace {
 
-constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
-constexpr std::size_t kByteOrderMarkBytes = 3;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // Hosts match these lines; no text of a problem stands anywhere else.
 
@@ -25,26 +23,6 @@ std::string ProblemAtLine(const char* fileName, std::size_t lineNumber, const ch
 
 constexpr char kNotUtf8[] = " contains non-UTF-8 character(s). Skipped";
 constexpr char kNoEqualsSign[] = " does not contain '='. Skipped";
-
-/// Makes a stream pass on what its buffer throws for as long as this object lives. Otherwise a
-/// failed allocation inside std::getline would look like the end of the file, and the catalogue
-/// would be cut short without a word.
-class StreamThrows {
- public:
-  explicit StreamThrows(std::istream& stream) : stream_(stream), before_(stream.exceptions()) {
-    stream_.exceptions(std::ios::badbit);
-  }
-  ~StreamThrows() {
-    stream_.clear(stream_.rdstate() & ~std::ios::badbit);
-    stream_.exceptions(before_);
-  }
-  StreamThrows(const StreamThrows&) = delete;
-  StreamThrows& operator=(const StreamThrows&) = delete;
-
- private:
-  std::istream& stream_;
-  const std::ios::iostate before_;
-};
 
 char Unescaped(char c) {
   switch (c) {
@@ -60,75 +38,98 @@ char Unescaped(char c) {
 /// Reads one file; its members are what its lines have in common.
 class PropertiesReader {
  public:
-  PropertiesReader(const char* fileName, std::istream& stream, PropertyTable& table,
-                   PropertyKeyPool& keys, ProblemSink& problems)
-      : fileName_(fileName), stream_(stream), table_(table), keys_(keys), problems_(problems) {}
+  PropertiesReader(const char* fileName, std::istream& stream, PropertyReceiver& receiver,
+                   ProblemSink& problems)
+      : fileName_(fileName),
+        lines_(fileName, stream, problems),
+        receiver_(receiver),
+        problems_(problems) {}
 
   void Read() {
-    while (char* line = NextLine()) {
-      if (*line == '\0' || *line == '#') continue;
-      char* separator = std::strchr(line, '=');
-      if (separator == nullptr) {
-        problems_.Line(ProblemAtLine(fileName_, lineNumber_, kNoEqualsSign));
+    std::string_view line;
+    while (lines_.ReadPropertiesLine(line)) {
+      if (line.empty() || line.front() == '#') continue;
+      const std::size_t separator = line.find('=');
+      if (separator == std::string_view::npos) {
+        problems_.Line(ProblemAtLine(fileName_, lines_.LineNumber(), kNoEqualsSign));
         continue;
       }
-      *separator = '\0';
-      std::string& value = table_[keys_.InternPropertyKey(KxUTF8Trim(line))];
-      value.clear();
-      AppendValue(value, KxUTF8Trim(separator + 1));
+      TakeEntry(KxUTF8Trim(line.substr(0, separator)), KxUTF8Trim(line.substr(separator + 1)));
     }
   }
 
  private:
-  char* NextLine() {
-    return ReadPropertiesLine(fileName_, stream_, buffer_, lineNumber_, problems_);
+  void TakeEntry(std::string_view key, std::string_view text) {
+    if (text.find('\\') == std::string_view::npos) return receiver_.Entry(key, text);
+    key_ = key;  // whose line is gone once the value goes on with another
+    text_.clear();
+    AppendValue(text);
+    receiver_.Entry(key_, text_);
   }
 
-  void AppendValue(std::string& value, const char* text) {
-    while (text != nullptr && *text != '\0') {
-      const std::size_t plain = std::strcspn(text, "\\");
-      value.append(text, plain);
-      text += plain;
-      if (*text == '\0') return;
-      ++text;  // the backslash
-      if (*text == '\0') {
-        text = NextLine();  // an empty line ends the value, as the end of the file does
+  void AppendValue(std::string_view text) {
+    while (!text.empty()) {
+      const std::string_view plain = text.substr(0, text.find('\\'));
+      text_ += plain;
+      text.remove_prefix(plain.size());
+      if (text.empty()) return;
+      text.remove_prefix(1);  // the backslash
+      if (text.empty()) {
+        // An empty line ends the value, as the end of the file does.
+        if (!lines_.ReadPropertiesLine(text)) return;
       } else {
-        value += Unescaped(*text++);
+        text_ += Unescaped(text.front());
+        text.remove_prefix(1);
       }
     }
   }
 
   const char* const fileName_;
-  std::istream& stream_;
-  PropertyTable& table_;
-  PropertyKeyPool& keys_;
+  PropertiesLines lines_;
+  PropertyReceiver& receiver_;
   ProblemSink& problems_;
-  std::string buffer_;
-  std::size_t lineNumber_ = 0;
+  std::string key_;
+  std::string text_;
+};
+
+class TableFiller final : public PropertyReceiver {
+ public:
+  explicit TableFiller(PropertyTable& table) : table_(table) {}
+  void Entry(std::string_view key, std::string_view text) override { table_.Set(key, text); }
+
+ private:
+  PropertyTable& table_;
 };
 
 }  // namespace
 
-char* ReadPropertiesLine(const char* fileName, std::istream& stream, std::string& buffer,
-                         std::size_t& lineNumber, ProblemSink& problems) {
-  if (stream.bad()) return nullptr;
-  const StreamThrows throws(stream);
-  if (!std::getline(stream, buffer)) return nullptr;
-  ++lineNumber;
-  char* line = buffer.data();
+bool PropertiesLines::ReadPropertiesLine(std::string_view& line) {
+  if (stream_.bad()) return false;
+  const LineReader::Line read = lines_.Next();
+  if (read.kind == LineReader::Kind::kLast && read.text.empty()) return false;
+  ++lineNumber_;
+  line = read.text.substr(0, read.text.find('\0'));
   if (!IsWellFormedUtf8(line)) {
-    problems.Line(ProblemAtLine(fileName, lineNumber, kNotUtf8));
-    *line = '\0';
+    problems_.Line(ProblemAtLine(fileName_, lineNumber_, kNotUtf8));
+    line = {};
   }
-  const bool marked =
-      lineNumber == 1 && std::strncmp(line, kByteOrderMark, kByteOrderMarkBytes) == 0;
-  return KxUTF8Trim(marked ? line + kByteOrderMarkBytes : line);
+  if (lineNumber_ == 1 && line.starts_with(kByteOrderMark)) {
+    line.remove_prefix(kByteOrderMark.size());
+  }
+  line = KxUTF8Trim(line);
+  return true;
+}
+
+void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyReceiver& receiver,
+                          ProblemSink& problems) {
+  PropertiesReader(fileName, stream, receiver, problems).Read();
 }
 
 void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTable& table,
-                          PropertyKeyPool& keys, ProblemSink& problems) {
-  PropertiesReader(fileName, stream, table, keys, problems).Read();
+                          ProblemSink& problems) {
+  TableFiller filler(table);
+  ReadPropertiesStream(fileName, stream, filler, problems);
+  table.Fit();
 }
 
 bool ReadPropertiesFile(const char* fileName, PropertyTable& table, bool* isSettled) {
@@ -139,7 +140,7 @@ bool ReadPropertiesFile(const char* fileName, PropertyTable& table, bool* isSett
   KxIfstreamOpen(stream, fileName);
   const bool isOpen = !stream.fail();
   if (isOpen) {
-    ReadPropertiesStream(fileName, stream, table, ProcessKeyPool(), problems);
+    ReadPropertiesStream(fileName, stream, table, problems);
   } else {
     problems.Line(CannotOpenFile(fileName));
   }

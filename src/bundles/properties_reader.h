@@ -2,44 +2,66 @@
 #define KX_BUNDLES_PROPERTIES_READER_H
 
 #include <cstddef>
-#include <iosfwd>
-#include <string>
-#include <unordered_map>
+#include <istream>
+#include <string_view>
 
-#include "bundles/property_key_pool.h"
+#include "bundles/property_table.h"
 #include "log/problem_sink.h"
-#include "platform/key_hash.h"
+#include "texts/line_reader.h"
 
 namespace kx {
 
-/// The texts of one file by key. Keys are pooled and found in any ASCII case.
-using PropertyTable = std::unordered_map<const char*, std::string, KeyHash, KeyEqual>;
+/// The lines of a .properties file.
+class PropertiesLines {
+ public:
+  /// @param fileName  for the problem lines; this and the others must outlive this object
+  /// @param problems  is told of each line that is not UTF-8; the line then counts as empty
+  PropertiesLines(const char* fileName, std::istream& stream, ProblemSink& problems)
+      : fileName_(fileName), stream_(stream), lines_(*stream.rdbuf()), problems_(problems) {}
 
-/// Reads one line of a .properties file.
-///
-/// @param fileName    for the problem line
-/// @param buffer      receives the line; grows as needed
-/// @param lineNumber  number of the last line read; one more afterwards
-/// @param problems    is told when the line is not UTF-8; the line then counts as empty
-/// @return the line without white space at both ends (and, on line 1, without a byte-order mark), a
-///         place inside `buffer`; null at the end of the stream or when it cannot be read
-///
-/// A NUL byte ends its line's text.
-char* ReadPropertiesLine(const char* fileName, std::istream& stream, std::string& buffer,
-                         std::size_t& lineNumber, ProblemSink& problems);
+  /// Reads the next line, without white space at both ends (and, the first one, without a
+  /// byte-order mark). A NUL byte ends its line's text.
+  ///
+  /// @param line  valid until the next call
+  /// @return false at the end of the file or when it cannot be read
+  bool ReadPropertiesLine(std::string_view& line);
 
-/// Reads the lines of a .properties file into `table`; docs/properties-files.md has the format.
+  /// Of the line that was read last, from 1.
+  std::size_t LineNumber() const noexcept { return lineNumber_; }
+
+ private:
+  const char* const fileName_;
+  const std::istream& stream_;
+  LineReader lines_;
+  ProblemSink& problems_;
+  std::size_t lineNumber_ = 0;
+};
+
+/// Is told of each entry of a file, in reading order.
+class PropertyReceiver {
+ public:
+  /// @param text  with its escapes and continuations resolved; both are valid during the call
+  virtual void Entry(std::string_view key, std::string_view text) = 0;
+
+ protected:
+  ~PropertyReceiver() = default;
+};
+
+/// Reads the lines of a .properties file; docs/properties-files.md has the format.
 ///
 /// @param fileName  for the problem lines; not null
-/// @param table     keeps its entries; a key read again replaces the value, not the key's spelling
-/// @param keys      the pool that keeps the keys; must outlive the table
+/// @param receiver  is told of a key again when it is read again
 /// @param problems  is told of each line that could not be used; the others are read all the same
 ///
-/// Throws std::bad_alloc only; what was read until then is in the table.
-void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTable& table,
-                          PropertyKeyPool& keys, ProblemSink& problems);
+/// Throws std::bad_alloc, and what the receiver throws; it has been told what was read until then.
+void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyReceiver& receiver,
+                          ProblemSink& problems);
 
-/// Reads the file `fileName` (UTF-8) into `table`, with the keys of this process.
+/// The same into a table; a key read again replaces the text, not the key's spelling.
+void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTable& table,
+                          ProblemSink& problems);
+
+/// Reads the file `fileName` (UTF-8) into `table`.
 ///
 /// @param isSettled  if not null, receives false when the file exists but could not be opened or
 ///                   read to its end for a reason that passes, else true

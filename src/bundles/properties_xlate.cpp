@@ -4,7 +4,6 @@
 #include <ostream>
 
 #include "bundles/install_manager.h"
-#include "bundles/property_key_pool.h"
 #include "bundles/resource_directory.h"
 #include "bundles/split_locale.h"
 #include "bundles/xlate_manager.h"
@@ -50,10 +49,11 @@ bool PropertiesXlate::GetDirectory(char* dst, KxSize size, const char* /*name*/)
 
 const char* PropertiesXlate::GetText(const char* key) {
   if (key == nullptr) return nullptr;
-  const auto found = texts_.find(key);
-  if (found != texts_.end()) return found->second.c_str();
-  NoteMissingKey(key);
-  return nullptr;
+  const std::string_view wanted = key;
+  const std::uint64_t hash = texts_.Hash(wanted);
+  const char* const found = texts_.Find(wanted, hash);
+  if (found == nullptr && !missingKeys_.Has(wanted, hash)) NoteMissingKey(wanted, hash);
+  return found;
 }
 
 bool PropertiesXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
@@ -73,21 +73,20 @@ bool PropertiesXlate::GetPrompt(char* dst, KxSize size, const char* /*key*/, con
 void PropertiesXlate::DumpTable() const {
   kx::StandardOutputStream output;
   output << "Xlate " << owner_->BundleName() << '/' << owner_->Locale() << '\n';
-  for (const auto& [key, text] : texts_) output << "   " << key << "=>" << text << '\n';
+  texts_.ForEach([&output](const char* key, const char* text) {
+    output << "   " << key << "=>" << text << '\n';
+  });
   output << std::endl;
 }
 
-void PropertiesXlate::NoteMissingKey(const char* key) {
+void PropertiesXlate::NoteMissingKey(std::string_view key, std::uint64_t hash) {
   const kx::CriticalSectionGuard guard(lock_);
-  if (missingKeys_.find(key) != missingKeys_.end()) return;
-  const auto noted = missingKeys_.insert(kx::ProcessKeyPool().InternPropertyKey(key)).first;
-  try {
-    kx::ProcessLog().WriteLine(kx::ProcessResources().Root(),
-                               {owner_->Path(), " key not found: ", key});
-  } catch (...) {
-    missingKeys_.erase(noted);  // or the key would never be logged
-    throw;
-  }
+  if (missingKeys_.Has(key, hash)) return;
+  // Noted when it has been logged, or a failure in between would keep it out of the log for good.
+  const char* const prepared = missingKeys_.Prepare(key);
+  kx::ProcessLog().WriteLine(kx::ProcessResources().Root(),
+                             {owner_->Path(), " key not found: ", key});
+  missingKeys_.Note(prepared, hash);
 }
 
 namespace kx {

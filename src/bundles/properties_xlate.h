@@ -3,15 +3,15 @@
 
 #include <cstdint>
 #include <string>
-#include <unordered_set>
+#include <string_view>
 
 #include "CKxXlate.h"
 #include "bundles/bundle_entries.h"
 #include "bundles/properties_reader.h"
 #include "platform/critical_section.h"
-#include "platform/key_hash.h"
 #include "platform/reference_count.h"
 #include "platform/thread_annotations.h"
+#include "texts/noted_keys.h"
 
 class XlateManager;
 
@@ -66,7 +66,7 @@ class PropertiesXlate final : public CKxXlate {
  private:
   ~PropertiesXlate() override = default;
 
-  void NoteMissingKey(const char* key) KX_EXCLUDES(lock_);
+  void NoteMissingKey(std::string_view key, std::uint64_t hash) KX_EXCLUDES(lock_);
 
   // Constant after construction, so that lookups that find their key need no lock.
   kx::PropertyTable texts_;
@@ -75,9 +75,9 @@ class PropertiesXlate final : public CKxXlate {
   bool isSettled_ = true;
   std::int64_t loadTime_;
 
-  // Guarded: the keys that were asked for in vain, so that each is logged once.
+  // The keys that were asked for in vain: written under the lock, read without.
   kx::CriticalSection lock_;
-  std::unordered_set<const char*, kx::KeyHash, kx::KeyEqual> missingKeys_ KX_GUARDED_BY(lock_);
+  kx::NotedKeys missingKeys_;
   kx::ReferenceCount references_{1};
 
   // Owned by the bundle.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 namespace kx {
 namespace {
@@ -28,15 +30,27 @@ std::size_t SequenceLength(std::string_view text) {
   return leadHasBits || next >= 0x80 + (0x100 >> length) ? static_cast<std::size_t>(length) : 0;
 }
 
+/// How many bytes at the beginning of `text` are ASCII, in whole words.
+std::size_t AsciiWords(std::string_view text) {
+  constexpr std::uint64_t kTopBits = 0x8080808080808080;
+  std::size_t at = 0;
+  for (std::uint64_t word; at + sizeof word <= text.size(); at += sizeof word) {
+    std::memcpy(&word, text.data() + at, sizeof word);
+    if ((word & kTopBits) != 0) break;
+  }
+  return at;
+}
+
 }  // namespace
 
 bool IsWellFormedUtf8(std::string_view text) noexcept {
-  while (!text.empty()) {
+  for (;;) {
+    text.remove_prefix(AsciiWords(text));
+    if (text.empty()) return true;
     const std::size_t length = SequenceLength(text);
     if (length == 0) return false;
     text.remove_prefix(length);
   }
-  return true;
 }
 
 }  // namespace kx

@@ -3,7 +3,6 @@
 #include <new>
 
 #include "bundles/install_manager.h"
-#include "bundles/property_key_pool.h"
 #include "bundles/resource_directory.h"
 #include "lang/interned_strings.h"
 #include "lang/language_paths.h"
@@ -35,7 +34,6 @@ NeverDestroyed<LanguagePaths> g_languagePaths;
 std::uint32_t g_nextTranslatorId = 1;
 NeverDestroyed<CriticalSection> g_cacheLock;
 NeverDestroyed<ResourceLocation> g_resources;
-NeverDestroyed<PropertyKeyPool> g_keyPool;
 NeverDestroyed<InstalledManagers> g_managers;
 // Reads the directory now, while no host thread can look anything up; it must not log, since the
 // log below does not exist yet.
@@ -51,7 +49,6 @@ LanguageContext ProcessLanguageContext() {
   return {*g_languagePaths, *g_internTable, g_nextTranslatorId, *g_log};
 }
 ResourceLocation& ProcessResources() { return *g_resources; }
-PropertyKeyPool& ProcessKeyPool() { return *g_keyPool; }
 InstalledManagers& ProcessManagers() { return *g_managers; }
 TranslationLog& ProcessLog() { return *g_log; }
 

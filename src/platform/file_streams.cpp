@@ -1,5 +1,8 @@
 #include "platform/file_streams.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace kx {
 namespace {
 
@@ -12,8 +15,6 @@ FileInputBuffer::~FileInputBuffer() {
 }
 
 bool FileInputBuffer::Open(const char* path) {
-  // Before the file is opened, so that a failed allocation leaves nothing open.
-  block_.resize(kBlockBytes);
   const OpenedFile opened = OpenRegularFile(path);
   file_ = opened.file;
   mayWorkLater_ = opened.mayOpenLater;
@@ -21,12 +22,32 @@ bool FileInputBuffer::Open(const char* path) {
 }
 
 FileInputBuffer::int_type FileInputBuffer::underflow() {
-  if (file_ == kNoFile) return traits_type::eof();
-  const FileBlock read = ReadFileBlock(file_, block_.data(), block_.size());
-  mayWorkLater_ = mayWorkLater_ || read.failed;
-  if (read.size == 0) return traits_type::eof();
-  setg(block_.data(), block_.data(), block_.data() + read.size);
+  block_.resize(kBlockBytes);
+  const std::size_t count = Read(block_.data(), block_.size());
+  if (count == 0) return traits_type::eof();
+  setg(block_.data(), block_.data(), block_.data() + count);
   return traits_type::to_int_type(block_.front());
+}
+
+// Into the caller's memory at once: readers of whole files have a block of their own.
+std::streamsize FileInputBuffer::xsgetn(char* bytes, std::streamsize size) {
+  const std::streamsize kept = std::min<std::streamsize>(egptr() - gptr(), size);
+  if (kept > 0) std::memcpy(bytes, gptr(), static_cast<std::size_t>(kept));
+  gbump(static_cast<int>(kept));
+  std::streamsize done = kept;
+  while (done < size) {
+    const std::size_t count = Read(bytes + done, static_cast<std::size_t>(size - done));
+    if (count == 0) break;
+    done += static_cast<std::streamsize>(count);
+  }
+  return done;
+}
+
+std::size_t FileInputBuffer::Read(char* bytes, std::size_t size) {
+  if (file_ == kNoFile) return 0;
+  const FileBlock read = ReadFileBlock(file_, bytes, size);
+  mayWorkLater_ = mayWorkLater_ || read.failed;
+  return read.size;
 }
 
 FileOutputBuffer::~FileOutputBuffer() {

@@ -27,8 +27,11 @@ class FileInputBuffer final : public std::streambuf {
 
  protected:
   int_type underflow() override;
+  std::streamsize xsgetn(char* bytes, std::streamsize size) override;
 
  private:
+  std::size_t Read(char* bytes, std::size_t size);
+
   FileHandle file_ = kNoFile;
   bool mayWorkLater_ = false;
   std::vector<char> block_;

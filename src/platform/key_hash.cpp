@@ -3,6 +3,8 @@
 #include <chrono>
 #include <cstring>
 
+#include "platform/hash_seed.h"
+
 namespace kx {
 namespace {
 
@@ -34,22 +36,23 @@ std::uint64_t Load(const char* bytes, std::size_t size) noexcept {
 }
 
 /// Where the process and its stack lie, and when it came here, are not to be known from outside.
-std::uint64_t MakeSeed() noexcept {
+HashSeed MakeSeed() noexcept {
   const auto now =
       static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
   const auto place = reinterpret_cast<std::uintptr_t>(&now);
-  return Mix(now ^ kOdd1, place ^ kOdd2);
-}
-
-std::uint64_t Seed() noexcept {
-  static const std::uint64_t seed = MakeSeed();
-  return seed;
+  const std::uint64_t first = Mix(now ^ kOdd1, place ^ kOdd2);
+  return {first, Mix(first ^ kOdd2, now ^ kOdd1)};
 }
 
 }  // namespace
 
+HashSeed ProcessHashSeed() noexcept {
+  static const HashSeed seed = MakeSeed();
+  return seed;
+}
+
 std::size_t SeededHash(std::string_view key) noexcept {
-  std::uint64_t hash = Seed() ^ key.size() * kOdd2;
+  std::uint64_t hash = ProcessHashSeed().first ^ key.size() * kOdd2;
   for (; key.size() > kWordBytes; key.remove_prefix(kWordBytes)) {
     hash = Mix(hash ^ FoldWord(Load(key.data(), kWordBytes)), kOdd1);
   }

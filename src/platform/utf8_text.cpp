@@ -1,13 +1,8 @@
 #include "platform/utf8_text.h"
 
 #include <cstddef>
-#include <cstring>
 
 namespace {
-
-constexpr char kWhiteSpace[] = " \t\n\v\f\r";
-
-bool IsWhiteSpace(char c) { return c != '\0' && std::strchr(kWhiteSpace, c) != nullptr; }
 
 /// Small letters of two-byte sequences, as code points, and how far below them their capitals lie.
 struct LetterRange {
@@ -46,12 +41,4 @@ CKxUTF8ToUpper::CKxUTF8ToUpper(const char* text) : text_(text) {
     text_[at] = static_cast<char>(0xC0 | capital >> 6);
     text_[++at] = static_cast<char>(0x80 | (capital & 0x3F));
   }
-}
-
-char* KxUTF8Trim(char* text) {
-  text += std::strspn(text, kWhiteSpace);
-  char* end = text + std::strlen(text);
-  while (end != text && IsWhiteSpace(end[-1])) --end;
-  *end = '\0';
-  return text;
 }

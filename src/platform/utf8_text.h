@@ -2,13 +2,24 @@
 #define KX_PLATFORM_UTF8_TEXT_H
 
 #include <string>
+#include <string_view>
 
-/// Removes blanks, tabs, line feeds, vertical tabs, form feeds and carriage returns at both ends of
-/// `text`, and no other character, whatever its kind.
-///
-/// @param text  NUL-terminated, changed in place; not null
-/// @return the first remaining character, a place inside `text`
-char* KxUTF8Trim(char* text);
+/// Blanks, tabs, line feeds, vertical tabs, form feeds and carriage returns, and no other
+/// character, whatever its kind.
+constexpr bool KxIsWhiteSpace(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+/// `text` without the white space at its beginning.
+constexpr std::string_view KxUTF8TrimStart(std::string_view text) noexcept {
+  while (!text.empty() && KxIsWhiteSpace(text.front())) text.remove_prefix(1);
+  return text;
+}
+
+/// `text` without the white space at both ends.
+constexpr std::string_view KxUTF8Trim(std::string_view text) noexcept {
+  text = KxUTF8TrimStart(text);
+  while (!text.empty() && KxIsWhiteSpace(text.back())) text.remove_suffix(1);
+  return text;
+}
 
 /// The upper-case form of a UTF-8 text: the small letters of the plain alphabets (ASCII, Latin-1,
 /// Greek without accents, Cyrillic of U+0430 to U+045F) become capitals; all else, broken sequences

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <streambuf>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,25 +20,24 @@ constexpr std::size_t kMegabyte = std::size_t{1} << 20;
 
 class PropertiesLine : public testing::Test {
  protected:
-  const char* Next(std::istream& stream) {
-    return kx::ReadPropertiesLine("agent.properties", stream, buffer_, lineNumber_, problems_);
-  }
+  using Texts = std::vector<std::string>;
 
   /// All lines to the end; "(too many)" behind a thousand.
-  std::vector<std::string> Lines(const std::string& bytes) {
-    std::istringstream stream(bytes);
-    std::vector<std::string> lines;
-    while (const char* line = Next(stream)) {
+  Texts Lines(std::istream& stream) {
+    kx::PropertiesLines reader("agent.properties", stream, problems_);
+    Texts lines;
+    for (std::string_view line; reader.ReadPropertiesLine(line);) {
       lines.emplace_back(line);
       if (lines.size() > 1000) return {"(too many)"};
     }
     return lines;
   }
 
-  using Texts = std::vector<std::string>;
+  Texts Lines(const std::string& bytes) {
+    std::istringstream stream(bytes);
+    return Lines(stream);
+  }
 
-  std::string buffer_;
-  std::size_t lineNumber_ = 0;
   ProblemList problems_;
 };
 
@@ -53,32 +53,22 @@ TEST_F(PropertiesLine, IsTrimmedAndOtherwiseAsWritten) {
 
 TEST_F(PropertiesLine, EachOneCounts) {
   std::istringstream stream("a\n\n \\\n\xC0\nb");
+  kx::PropertiesLines lines("agent.properties", stream, problems_);
+  std::string_view line;
   for (std::size_t expected = 1; expected <= 5; ++expected) {
-    EXPECT_NE(nullptr, Next(stream));
-    EXPECT_EQ(expected, lineNumber_);
+    EXPECT_TRUE(lines.ReadPropertiesLine(line));
+    EXPECT_EQ(expected, lines.LineNumber());
   }
-  EXPECT_EQ(nullptr, Next(stream));
+  EXPECT_FALSE(lines.ReadPropertiesLine(line));
 }
 
 TEST_F(PropertiesLine, BehindTheEndThereIsNoneAgainAndAgain) {
   std::istringstream stream("a");
-  EXPECT_NE(nullptr, Next(stream));
-  EXPECT_EQ(nullptr, Next(stream));
-  EXPECT_EQ(nullptr, Next(stream));
-}
-
-TEST_F(PropertiesLine, LiesInsideTheBuffer) {
-  std::istringstream stream("  a  \n" + std::string(5000, 'b') + "\n \n");
-  while (const char* line = Next(stream)) {
-    EXPECT_GE(line, buffer_.data());
-    EXPECT_LE(line, buffer_.data() + buffer_.size());
-  }
-  EXPECT_EQ(3U, lineNumber_);
-}
-
-TEST_F(PropertiesLine, ReplacesWhatTheBufferHeld) {
-  buffer_ = std::string(1000, 'x');
-  EXPECT_EQ((Texts{"long line", "b"}), Lines("long line\nb\n"));
+  kx::PropertiesLines lines("agent.properties", stream, problems_);
+  std::string_view line;
+  EXPECT_TRUE(lines.ReadPropertiesLine(line));
+  EXPECT_FALSE(lines.ReadPropertiesLine(line));
+  EXPECT_FALSE(lines.ReadPropertiesLine(line));
 }
 
 TEST_F(PropertiesLine, ThatIsNotUtf8IsEmptyAndReported) {
@@ -95,14 +85,6 @@ TEST_F(PropertiesLine, LosesTheByteOrderMarkAsTheFirstOnly) {
                   "b\n"));
 }
 
-TEST_F(PropertiesLine, NumberDecidesWhichIsTheFirst) {
-  lineNumber_ = 4;
-  EXPECT_EQ(Texts{"\xEF\xBB\xBF"
-                  "a"},
-            Lines("\xEF\xBB\xBF"
-                  "a\n"));
-}
-
 TEST_F(PropertiesLine, EndsItsTextAtANulByte) {
   EXPECT_EQ((Texts{"a", "", "c"}), Lines(std::string("a \0b\n\0b\nc", 9)));
 }
@@ -115,7 +97,7 @@ TEST_F(PropertiesLine, OfAMegabyteIsWhole) {
 TEST_F(PropertiesLine, OfABrokenStreamIsNone) {
   std::istringstream stream("a=1\n");
   stream.setstate(std::ios::badbit);
-  EXPECT_EQ(nullptr, Next(stream));
+  EXPECT_EQ(Texts{}, Lines(stream));
 }
 
 /// Hands out one text and then nothing more, whatever the file still holds.
@@ -135,47 +117,38 @@ class FailingBuffer final : public std::streambuf {
 TEST_F(PropertiesLine, AtAReadErrorIsNone) {
   FailingBuffer buffer("a\n");
   std::istream stream(&buffer);
-  EXPECT_STREQ("a", Next(stream));
-  EXPECT_EQ(nullptr, Next(stream));
-  EXPECT_EQ(nullptr, Next(stream));
+  EXPECT_EQ(Texts{"a"}, Lines(stream));
 }
 
 TEST(PropertiesStream, ReadErrorEndsTheFileAndKeepsWhatWasRead) {
   FailingBuffer buffer("a=1\nb=2\nc=3\\\n");
   std::istream stream(&buffer);
   kx::PropertyTable table;
-  kx::PropertyKeyPool keys;
   ProblemList problems;
-  kx::ReadPropertiesStream("agent.properties", stream, table, keys, problems);
+  kx::ReadPropertiesStream("agent.properties", stream, table, problems);
   EXPECT_EQ((PropertyTexts{{"a", "1"}, {"b", "2"}, {"c", "3"}}), TextsOf(table));
   EXPECT_TRUE(problems.Lines().empty());
 }
 
-TEST(PropertiesStream, KeysAreThoseOfThePool) {
+TEST(PropertiesStream, KeysAreSpelledAsTheyWereFirst) {
   std::istringstream stream("Title=x\nTITLE=y\n = z\n");
   kx::PropertyTable table;
-  kx::PropertyKeyPool keys;
   ProblemList problems;
-  kx::ReadPropertiesStream("agent.properties", stream, table, keys, problems);
-  ASSERT_EQ(2U, table.size());
+  kx::ReadPropertiesStream("agent.properties", stream, table, problems);
+  EXPECT_EQ((PropertyTexts{{"Title", "y"}, {"", "z"}}), TextsOf(table));
   for (const char* spelling : {"Title", "TITLE", "title", "tItLe"}) {
-    const auto found = table.find(spelling);
-    ASSERT_NE(table.end(), found) << spelling;
-    EXPECT_EQ(keys.InternPropertyKey("Title"), found->first);
-    EXPECT_EQ("y", found->second);
+    EXPECT_STREQ("y", table.Find(spelling, table.Hash(spelling))) << spelling;
   }
-  ASSERT_NE(table.end(), table.find(""));
-  EXPECT_EQ(keys.InternPropertyKey(""), table.find("")->first);
+  EXPECT_STREQ("z", table.Find("", table.Hash("")));
 }
 
 TEST(PropertiesStream, EarlierEntriesStayOrTakeTheNewText) {
   kx::PropertyTable table;
-  kx::PropertyKeyPool keys;
   ProblemList problems;
   std::istringstream first("Kept=1\nShared=2\n");
-  kx::ReadPropertiesStream("one.properties", first, table, keys, problems);
+  kx::ReadPropertiesStream("one.properties", first, table, problems);
   std::istringstream second("SHARED=3\nNew=4\nx\n");
-  kx::ReadPropertiesStream("two.properties", second, table, keys, problems);
+  kx::ReadPropertiesStream("two.properties", second, table, problems);
   EXPECT_EQ((PropertyTexts{{"Kept", "1"}, {"Shared", "3"}, {"New", "4"}}), TextsOf(table));
   EXPECT_EQ(std::vector<std::string>{"two.properties:3 does not contain '='. Skipped"},
             problems.Lines());
@@ -224,9 +197,8 @@ TEST(PropertiesStream, ManyKeysAreAllRead) {
 TEST(PropertiesStream, FileNameIsToldAsItIs) {
   std::istringstream stream("x\n\xC0\n");
   kx::PropertyTable table;
-  kx::PropertyKeyPool keys;
   ProblemList problems;
-  kx::ReadPropertiesStream("C:/r\xC3\xA9s/100%s %n.properties", stream, table, keys, problems);
+  kx::ReadPropertiesStream("C:/r\xC3\xA9s/100%s %n.properties", stream, table, problems);
   EXPECT_EQ((std::vector<std::string>{
                 "C:/r\xC3\xA9s/100%s %n.properties:1 does not contain '='. Skipped",
                 "C:/r\xC3\xA9s/100%s %n.properties:2 contains non-UTF-8 character(s). Skipped"}),

@@ -28,30 +28,24 @@ std::string FileOfTexts() {
          kTexts[2].second;
 }
 
-/// The entries are those of the first keys of the file, and whole but for the last of them.
+/// The entries are those of the first keys of the file, and whole.
 void ExpectBeginningOf(const kx::PropertyTable& table) {
-  ASSERT_LE(table.size(), kTexts.size());
-  for (std::size_t i = 0; i < table.size(); ++i) {
-    const auto found = table.find(kTexts[i].first.c_str());
-    ASSERT_NE(table.end(), found) << i;
-    if (i + 1 < table.size()) {
-      EXPECT_EQ(kTexts[i].second, found->second);
-    } else {
-      EXPECT_EQ(0U, kTexts[i].second.rfind(found->second, 0));
-    }
-  }
+  const PropertyTexts texts = TextsOf(table);
+  ASSERT_LE(texts.size(), kTexts.size());
+  EXPECT_EQ(
+      PropertyTexts(kTexts.begin(), kTexts.begin() + static_cast<std::ptrdiff_t>(texts.size())),
+      texts);
 }
 
 TEST(PropertiesMemory, ShortageIsThrownAndKeepsWhatWasRead) {
   const std::string bytes = FileOfTexts();
   const int failures = FailEachAllocation(
       [&] {
-        kx::PropertyKeyPool keys;
         ProblemList problems;
         std::istringstream stream(bytes);
         kx::PropertyTable read;
         try {
-          kx::ReadPropertiesStream("agent.properties", stream, read, keys, problems);
+          kx::ReadPropertiesStream("agent.properties", stream, read, problems);
         } catch (const std::bad_alloc&) {
           ExpectBeginningOf(read);
           throw;
@@ -79,18 +73,14 @@ TEST(PropertiesMemory, ShortageIsThrownFromTheReadingOfAFile) {
 
 TEST(PropertiesMemory, ShortageIsThrownFromTheReadingOfALine) {
   const std::string bytes = std::string(100000, 'x') + "\nnext\n";
-  std::string buffer;
-  std::size_t lineNumber = 0;
   ProblemList problems;
   const int failures = FailEachAllocation(
       [&] {
-        buffer = std::string();
-        lineNumber = 0;
         std::istringstream stream(bytes);
-        const char* const line =
-            kx::ReadPropertiesLine("agent.properties", stream, buffer, lineNumber, problems);
-        ASSERT_NE(nullptr, line);
-        EXPECT_EQ(100000U, std::string(line).size());
+        kx::PropertiesLines lines("agent.properties", stream, problems);
+        std::string_view line;
+        ASSERT_TRUE(lines.ReadPropertiesLine(line));
+        EXPECT_EQ(100000U, line.size());
       },
       [] {});
   EXPECT_GT(failures, 0);
@@ -116,23 +106,10 @@ TEST(PropertiesMemory, ShortageInTheStreamIsNotTakenForTheEndOfTheFile) {
   HungryBuffer buffer("a=1\nb=2\n");
   std::istream stream(&buffer);
   kx::PropertyTable table;
-  kx::PropertyKeyPool keys;
   ProblemList problems;
-  EXPECT_THROW(kx::ReadPropertiesStream("agent.properties", stream, table, keys, problems),
+  EXPECT_THROW(kx::ReadPropertiesStream("agent.properties", stream, table, problems),
                std::bad_alloc);
   EXPECT_EQ((PropertyTexts{{"a", "1"}, {"b", "2"}}), TextsOf(table));
-}
-
-TEST(PropertyKeyPoolMemory, ShortageLeavesThePoolUsable) {
-  kx::PropertyKeyPool pool;
-  const char* const before = pool.InternPropertyKey("before");
-  const char* pooled = nullptr;
-  const int failures =
-      FailEachAllocation([&] { pooled = pool.InternPropertyKey(kLong.c_str()); },
-                         [&] { EXPECT_EQ(before, pool.InternPropertyKey("before")); });
-  EXPECT_GT(failures, 0);
-  EXPECT_EQ(kLong, pooled);
-  EXPECT_EQ(pooled, pool.InternPropertyKey(kLong.c_str()));
 }
 
 }  // namespace

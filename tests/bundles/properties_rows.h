@@ -31,15 +31,16 @@ struct PropertiesReading {
 };
 
 inline PropertyTexts TextsOf(const kx::PropertyTable& table) {
-  return PropertyTexts(table.begin(), table.end());
+  PropertyTexts texts;
+  table.ForEach([&texts](const char* key, const char* text) { texts.emplace(key, text); });
+  return texts;
 }
 
 inline PropertiesReading ReadProperties(const std::string& bytes) {
   std::istringstream stream(bytes);
   kx::PropertyTable table;
-  kx::PropertyKeyPool keys;
   ProblemList problems;
-  kx::ReadPropertiesStream("agent.properties", stream, table, keys, problems);
+  kx::ReadPropertiesStream("agent.properties", stream, table, problems);
   return {TextsOf(table), problems.Lines()};
 }
 

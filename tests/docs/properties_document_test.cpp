@@ -10,7 +10,6 @@
 #include "bundles/bundle_file_name.h"
 #include "bundles/properties_reader.h"
 #include "bundles/properties_xlate.h"
-#include "bundles/property_key_pool.h"
 #include "bundles/xlate_manager.h"
 #include "docs/markdown_parts.h"
 #include "platform/directories.h"
@@ -27,11 +26,12 @@ class PropertiesDocument : public testing::Test {
   static Texts Read(const std::string& bytes) {
     std::istringstream stream(bytes);
     kx::PropertyTable table;
-    kx::PropertyKeyPool keys;
     ProblemList problems;
-    kx::ReadPropertiesStream("agent.properties", stream, table, keys, problems);
+    kx::ReadPropertiesStream("agent.properties", stream, table, problems);
     EXPECT_EQ(std::vector<std::string>{}, problems.Lines()) << bytes;
-    return Texts(table.begin(), table.end());
+    Texts texts;
+    table.ForEach([&texts](const char* key, const char* text) { texts.emplace(key, text); });
+    return texts;
   }
 
   const MarkdownParts document_{"properties-files.md"};

@@ -20,12 +20,13 @@ class Nobody final : public kx::ProblemSink {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::istringstream stream(std::string(reinterpret_cast<const char*>(data), size));
-  kx::PropertyKeyPool keys;
   kx::PropertyTable table;
   Nobody problems;
-  kx::ReadPropertiesStream("fuzz", stream, table, keys, problems);
+  kx::ReadPropertiesStream("fuzz", stream, table, problems);
   std::size_t stored = 0;
-  for (const auto& [key, text] : table) stored += std::string(key).size() + text.size();
+  table.ForEach([&stored](const char* key, const char* text) {
+    stored += std::string(key).size() + std::string(text).size();
+  });
   Require(stored <= size);  // escapes only shorten
   return 0;
 }

@@ -25,18 +25,15 @@ class ExampleCatalogue : public testing::TestWithParam<std::tuple<const char*, c
     EXPECT_TRUE(stream.is_open()) << path;
     kx::PropertyTable table;
     ProblemList problems;
-    kx::ReadPropertiesStream(path.c_str(), stream, table, pool_, problems);
+    kx::ReadPropertiesStream(path.c_str(), stream, table, problems);
     EXPECT_THAT(problems.Lines(), testing::IsEmpty());
     std::set<std::string> keys;
-    for (const auto& [key, text] : table) {
-      EXPECT_NE("", text) << key;
+    table.ForEach([&keys](const char* key, const char* text) {
+      EXPECT_STRNE("", text) << key;
       keys.insert(key);
-    }
+    });
     return keys;
   }
-
- private:
-  kx::PropertyKeyPool pool_;
 };
 
 // There is no fallback by key: a text that a locale lacks shows nothing.

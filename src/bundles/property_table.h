@@ -1,0 +1,50 @@
+#ifndef KX_BUNDLES_PROPERTY_TABLE_H
+#define KX_BUNDLES_PROPERTY_TABLE_H
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#include "texts/key_table.h"
+#include "texts/text_arena.h"
+
+namespace kx {
+
+/// The texts of one file by key; keys are found in any ASCII case. Each text lies behind its key,
+/// so that a table finds both by one place.
+///
+/// Only changed while the file is read; looked up from any thread afterwards.
+class PropertyTable {
+ public:
+  std::uint64_t Hash(std::string_view key) const noexcept { return keys_.Hash(key); }
+
+  /// The text of `key`, which holds no NUL, or null; valid as long as the table. Allocates nothing.
+  const char* Find(std::string_view key, std::uint64_t hash) const noexcept {
+    const char* const stored = keys_.Find(key, hash);
+    return stored == nullptr ? nullptr : stored + key.size() + 1;
+  }
+
+  /// Adds a key with its text, or replaces the text of the key, whose first spelling stays. Neither
+  /// holds a NUL. Throws std::bad_alloc, with the table as it was.
+  void Set(std::string_view key, std::string_view text);
+
+  /// Gives back room that a file of a known size would not have taken.
+  void Fit() { keys_.Fit(); }
+
+  std::size_t Size() const noexcept { return keys_.Size(); }
+
+  /// Calls `action(key, text)` for each entry, in no particular order.
+  template <class Action>
+  void ForEach(const Action& action) const {
+    keys_.ForEach([&action](const char* key) { action(key, key + std::strlen(key) + 1); });
+  }
+
+ private:
+  TextArena texts_;
+  KeyTable keys_;
+};
+
+}  // namespace kx
+
+#endif  // KX_BUNDLES_PROPERTY_TABLE_H
