@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "platform/ascii_case.h"
+#include "platform/utf8_text.h"
 
 namespace kx {
 namespace {
@@ -22,7 +23,7 @@ constexpr Clause kClauses[] = {{"Key", Open::kKey, false},
                                {"Label", Open::kLabel, true}};
 
 void OpenPair(LangFileParser& parser, LanguageContents& contents, const Clause& clause,
-              const char* name) {
+              std::string_view name) {
   CommitPendingPair(parser, contents);
   parser.open = clause.opens;
   parser.name = name;
@@ -30,7 +31,7 @@ void OpenPair(LangFileParser& parser, LanguageContents& contents, const Clause& 
 
 // A value that nothing waits for drops the open pair as well, even a complete one: of two values
 // for one key neither is stored.
-void TakeValue(LangFileParser& parser, const Clause& clause, const char* text) {
+void TakeValue(LangFileParser& parser, const Clause& clause, std::string_view text) {
   const Open awaited = clause.opens == Open::kValue ? Open::kKey : Open::kButton;
   if (parser.open != awaited) {
     parser.Report(LangProblem::kValueWithoutKey);
@@ -41,7 +42,7 @@ void TakeValue(LangFileParser& parser, const Clause& clause, const char* text) {
   parser.text = text;
 }
 
-void Continue(LangFileParser& parser, const char* text) {
+void Continue(LangFileParser& parser, std::string_view text) {
   switch (parser.open) {
     case Open::kKey:
     case Open::kButton: parser.name += text; return;
@@ -55,12 +56,12 @@ void Continue(LangFileParser& parser, const char* text) {
 
 void ParseBodyClause(LangFileParser& parser, LanguageContents& contents) {
   const std::string_view line = parser.cursor;
-  if (line.front() == '&') return Continue(parser, parser.cursor + 1);
+  if (line.front() == '&') return Continue(parser, line.substr(1));
   for (const Clause& clause : kClauses) {
     if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
-    const char* behind = parser.cursor + clause.keyword.size();
-    if (*behind != ' ' && !(clause.mayEndLine && *behind == '\0')) continue;
-    const char* text = SkipWhiteSpace(behind);
+    const std::string_view behind = line.substr(clause.keyword.size());
+    if (!behind.starts_with(' ') && !(clause.mayEndLine && behind.empty())) continue;
+    const std::string_view text = KxUTF8TrimStart(behind);
     return clause.mayEndLine ? TakeValue(parser, clause, text)
                              : OpenPair(parser, contents, clause, text);
   }
@@ -73,10 +74,10 @@ void CommitPendingPair(LangFileParser& parser, LanguageContents& contents) {
     case Open::kKey:
     case Open::kButton: parser.Report(LangProblem::kKeyWithoutValue); break;
     case Open::kValue:
-      contents.texts.Set(parser.name, parser.strings.InternString(parser.text.c_str()));
+      contents.texts.Set(parser.name, parser.strings.InternString(std::string_view(parser.text)));
       break;
     case Open::kLabel:
-      contents.labels.Set(parser.name, parser.strings.InternString(parser.text.c_str()));
+      contents.labels.Set(parser.name, parser.strings.InternString(std::string_view(parser.text)));
       break;
   }
   parser.Reset();

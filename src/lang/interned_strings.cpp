@@ -1,16 +1,15 @@
 #include "lang/interned_strings.h"
 
-#include <string_view>
-
 namespace kx {
 
-const char* InternTable::InternString(const char* text) {
-  if (text == nullptr) return nullptr;
-  if (*text == '\0') return "";
-  const std::string_view content = text;
-  const auto place = strings_.lower_bound(content);
-  if (place != strings_.end() && *place == content) return place->c_str();
-  return strings_.emplace_hint(place, content)->c_str();
+const char* InternTable::InternString(std::string_view text) {
+  if (text.empty()) return "";
+  const std::uint64_t hash = strings_.Hash(text);
+  if (const char* const known = strings_.Find(text, hash)) return known;
+  char* const place = texts_.Take(text.size() + 1);
+  PutText(place, text);
+  strings_.Add(place, hash);
+  return place;
 }
 
 }  // namespace kx

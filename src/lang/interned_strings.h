@@ -1,9 +1,10 @@
 #ifndef KX_LANG_INTERNED_STRINGS_H
 #define KX_LANG_INTERNED_STRINGS_H
 
-#include <functional>
-#include <set>
-#include <string>
+#include <string_view>
+
+#include "texts/key_table.h"
+#include "texts/text_arena.h"
 
 namespace kx {
 
@@ -20,10 +21,16 @@ class InternTable {
   InternTable& operator=(const InternTable&) = delete;
 
   /// The table's copy of `text`; null for null. All empty texts have one copy.
-  const char* InternString(const char* text);
+  const char* InternString(const char* text) {
+    return text == nullptr ? nullptr : InternString(std::string_view(text));
+  }
+
+  /// The same for a text without a NUL in it.
+  const char* InternString(std::string_view text);
 
  private:
-  std::set<std::string, std::less<>> strings_;
+  TextArena texts_;
+  ExactKeyTable strings_;
 };
 
 /// The table of this process. Lives in core/process_state.cpp.

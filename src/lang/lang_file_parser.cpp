@@ -1,45 +1,45 @@
 #include "lang/lang_file_parser.h"
 
-#include <cstring>
 #include <istream>
 
 #include "lang/body_clauses.h"
 #include "lang/header_directives.h"
+#include "platform/utf8_text.h"
+#include "texts/line_reader.h"
 
 namespace kx {
 namespace {
 
-bool IsComment(const char* text) {
-  return *text == ';' || *text == '#' || (text[0] == '/' && text[1] == '/');
+// Vertical tabs and form feeds stay here, though they are skipped at a line's start.
+bool IsStrippedAtTheEnd(char c) { return KxIsWhiteSpace(c) && c != '\v' && c != '\f'; }
+
+bool IsComment(std::string_view text) {
+  return text.starts_with(';') || text.starts_with('#') || text.starts_with("//");
 }
 
-void StripEnd(char* line) {
-  char* end = line + std::strlen(line);
-  // Vertical tabs and form feeds stay here, though they are skipped at a line's start.
-  while (end != line && std::strchr(" \t\n\r", end[-1]) != nullptr) --end;
-  *end = '\0';
-}
-
-/// Reads the next line; false when it is too long.
-bool ReadLine(LangFileParser& parser, std::istream& stream) {
-  stream.getline(parser.line, sizeof parser.line);
+void TakeLine(LangFileParser& parser, std::string_view text) {
   ++parser.lineNumber;
-  StripEnd(parser.line);
-  parser.cursor = SkipWhiteSpace(parser.line);
-  return stream.good() || stream.eof();
+  text = text.substr(0, text.find('\0'));
+  while (!text.empty() && IsStrippedAtTheEnd(text.back())) text.remove_suffix(1);
+  parser.line = text;
+  parser.cursor = KxUTF8TrimStart(text);
 }
 
 }  // namespace
 
-const char* SkipWhiteSpace(const char* text) { return text + std::strspn(text, " \t\n\v\f\r"); }
-
 bool ReadLangFile(LangFileParser& parser, std::istream& stream, LanguageContents& contents) {
+  LineReader lines(*stream.rdbuf(), kMostLangLineBytes);
   bool inHeader = true;
   bool headerAccepted = false;
-  // The read that finds nothing but the end of the file counts as a line, too.
-  while (!stream.eof() && ReadLine(parser, stream)) {
+  auto kind = stream.good() ? LineReader::Kind::kLine : LineReader::Kind::kLast;
+  while (kind == LineReader::Kind::kLine) {
+    const LineReader::Line read = lines.Next();
+    kind = read.kind;
+    // What stands behind the last line feed counts as a line, too, even when it is nothing.
+    TakeLine(parser, read.text);
+    if (kind == LineReader::Kind::kTooLong) break;
     if (IsComment(parser.cursor)) continue;
-    if (*parser.cursor == '\0') {
+    if (parser.cursor.empty()) {
       inHeader = inHeader && !headerAccepted;
     } else if (inHeader) {
       headerAccepted |= ParseHeaderDirective(parser, contents);

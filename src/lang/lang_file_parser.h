@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 #include "lang/interned_strings.h"
 #include "lang/lang_problems.h"
@@ -12,8 +13,8 @@
 
 namespace kx {
 
-/// Room for one line of a language file, its NUL included.
-constexpr std::size_t kLangLineBytes = 4096;
+/// The most bytes that a line of a language file may have.
+constexpr std::size_t kMostLangLineBytes = 4095;
 
 /// What the lines of one file have in common; made afresh for each file.
 struct LangFileParser {
@@ -43,9 +44,9 @@ struct LangFileParser {
     text.clear();
   }
 
-  char line[kLangLineBytes] = {};  ///< the current line, without white space at its end
-  const char* cursor = line;       ///< its first character that is not white space
-  unsigned lineNumber = 0;         ///< lines read so far
+  std::string_view line;    ///< the current line, without white space at its end
+  std::string_view cursor;  ///< the same without white space at its beginning
+  unsigned lineNumber = 0;  ///< lines read so far
   Open open = Open::kNothing;
   std::string name;  ///< of the open key or button
   std::string text;  ///< its value or label
@@ -55,13 +56,9 @@ struct LangFileParser {
   InternTable& strings;
 };
 
-/// Skips blanks, tabs, line feeds, vertical tabs, form feeds and carriage returns. Bytes above 127
-/// are never white space.
-const char* SkipWhiteSpace(const char* text);
-
 /// Reads a whole language file into `contents`; docs/lang-files.md has the format.
 ///
-/// Reading ends early at a line that does not fit its room; what was complete by then is kept.
+/// Reading ends early at a line that is too long; what was complete by then is kept.
 ///
 /// @return true: problems never make a file useless
 ///

@@ -17,8 +17,9 @@ const char* BeginningOf(LangProblem problem) {
 }  // namespace
 
 std::string LangProblemLine(LangProblem problem, const std::string& fileName, unsigned lineNumber,
-                            const char* line) {
-  return BeginningOf(problem) + fileName + " at line #" + std::to_string(lineNumber) + ": " + line;
+                            std::string_view line) {
+  return (BeginningOf(problem) + fileName + " at line #" + std::to_string(lineNumber) + ": ")
+      .append(line);
 }
 
 std::string DifferingCharsetLine(const std::string& fileName) {

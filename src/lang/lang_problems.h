@@ -18,7 +18,7 @@ enum class LangProblem {
 
 /// "Unrecognized text in FR/agent.lang at line #12: Kay a"
 std::string LangProblemLine(LangProblem problem, const std::string& fileName, unsigned lineNumber,
-                            const char* line);
+                            std::string_view line);
 
 /// A file names another character set than the files before it.
 std::string DifferingCharsetLine(const std::string& fileName);

@@ -1,28 +1,44 @@
 #ifndef KX_LANG_LANGUAGE_CONTENTS_H
 #define KX_LANG_LANGUAGE_CONTENTS_H
 
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
-#include "platform/key_hash.h"
+#include "texts/key_table.h"
+#include "texts/text_arena.h"
 
 namespace kx {
 
 /// Interned values by key; a key is found in any ASCII case. Only changed while files are read.
+///
+/// The pointer to a key's value lies before the key, so that a table finds both by one place.
 class LanguageTable {
  public:
-  /// The value of `key`, or null. Allocates nothing.
-  const char* Find(std::string_view key) const {
-    const auto found = values_.find(key);
-    return found == values_.end() ? nullptr : found->second;
-  }
+  std::uint64_t Hash(std::string_view key) const noexcept { return keys_.Hash(key); }
 
-  /// Replaces the value that `key` has in whatever case.
-  void Set(const std::string& key, const char* value) { values_[key] = value; }
+  /// The value of `key`, which holds no NUL, or null. Allocates nothing.
+  const char* Find(std::string_view key, std::uint64_t hash) const noexcept {
+    const char* const stored = keys_.Find(key, hash);
+    return stored == nullptr ? nullptr : ValueBefore(stored);
+  }
+  const char* Find(std::string_view key) const noexcept { return Find(key, Hash(key)); }
+
+  /// Replaces the value that `key` has in whatever case. Throws std::bad_alloc, with the table as
+  /// it was.
+  void Set(std::string_view key, const char* value);
 
  private:
-  std::unordered_map<std::string, const char*, KeyHash, KeyEqual> values_;
+  /// On any address: the pointer stands where the text before it ends.
+  static const char* ValueBefore(const char* key) noexcept {
+    const char* value;
+    std::memcpy(&value, key - sizeof value, sizeof value);
+    return value;
+  }
+
+  TextArena texts_;
+  KeyTable keys_;
 };
 
 /// What the files of a language say. Each file that is read replaces what it names and leaves the

@@ -124,21 +124,22 @@ bool CRealKxXlate::IsSettled() const {
 
 const char* CRealKxXlate::FindKey(const kx::LanguageTable& contents, Table table, const char* key) {
   if (!kx::IsGiven(key)) return nullptr;
-  const char* value = contents.Find(key);
+  const std::string_view wanted = key;
+  const std::uint64_t hash = contents.Hash(wanted);
+  const char* const value = contents.Find(wanted, hash);
   // A language without files lacks every key: not worth a line.
-  if (value == nullptr && anyFileFound_) NoteMissingKey(table, key);
+  if (value == nullptr && anyFileFound_ && !missing_[table].Has(wanted, hash)) {
+    NoteMissingKey(missing_[table], wanted, hash);
+  }
   return value;
 }
 
-void CRealKxXlate::NoteMissingKey(Table table, std::string_view key) {
+void CRealKxXlate::NoteMissingKey(kx::NotedKeys& missing, std::string_view key,
+                                  std::uint64_t hash) {
   const kx::CriticalSectionGuard guard(lock_);
-  MissingKeys& missing = missing_[table];
-  if (missing.find(key) != missing.end()) return;
-  const auto noted = missing.emplace(key).first;
-  try {
-    log_.WriteLine(logRoot_, {displayName_, kx::kKeyNotFound, key});
-  } catch (...) {
-    missing.erase(noted);  // or the key would never be logged
-    throw;
-  }
+  if (missing.Has(key, hash)) return;
+  // Noted when it has been logged, or a failure in between would keep it out of the log for good.
+  const char* const prepared = missing.Prepare(key);
+  log_.WriteLine(logRoot_, {displayName_, kx::kKeyNotFound, key});
+  missing.Note(prepared, hash);
 }

@@ -4,16 +4,15 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
 #include "CKxXlate.h"
 #include "lang/lang_loader.h"
 #include "lang/language_contents.h"
 #include "lang/language_paths.h"
 #include "platform/critical_section.h"
-#include "platform/key_hash.h"
 #include "platform/reference_count.h"
 #include "platform/thread_annotations.h"
+#include "texts/noted_keys.h"
 
 /// The texts of one component in one language, merged from up to four language files.
 ///
@@ -71,9 +70,6 @@ class CRealKxXlate final : public CKxXlate {
   bool IsSettled() const;
 
  private:
-  /// Keys that were asked for in vain. What was loaded never changes, so that hits need no lock.
-  using MissingKeys = std::unordered_set<std::string, kx::KeyHash, kx::KeyEqual>;
-
   ~CRealKxXlate() override = default;
 
   void LoadFiles(const kx::LanguageContext& context, const char* country);
@@ -81,7 +77,8 @@ class CRealKxXlate final : public CKxXlate {
   enum Table { kTexts, kLabels, kDirectories, kTables };
 
   const char* FindKey(const kx::LanguageTable& contents, Table table, const char* key);
-  void NoteMissingKey(Table table, std::string_view key) KX_EXCLUDES(lock_);
+  void NoteMissingKey(kx::NotedKeys& missing, std::string_view key, std::uint64_t hash)
+      KX_EXCLUDES(lock_);
 
   // Constant after construction.
   std::string name_;
@@ -93,9 +90,10 @@ class CRealKxXlate final : public CKxXlate {
   kx::LanguageContents contents_;
   std::uint32_t id_ = 0;
 
-  // Guarded: apart for each table, so that a key is logged once for each that lacks it.
+  // The keys that were asked for in vain, apart for each table, so that a key is logged once for
+  // each that lacks it. Written under the lock, read without.
   kx::CriticalSection lock_;
-  MissingKeys missing_[kTables] KX_GUARDED_BY(lock_);
+  kx::NotedKeys missing_[kTables];
   kx::ReferenceCount references_{0};
 
   // Owned by the process.

@@ -208,8 +208,8 @@ class HeaderLine : public testing::Test {
  protected:
   bool IsDirective(std::string_view text) {
     kx::LangFileParser parser(kAgentFile, reading_.problems, reading_.strings);
-    std::copy(text.begin(), text.end(), parser.line);
-    parser.cursor = parser.line;
+    parser.line = text;
+    parser.cursor = text;
     parser.lineNumber = 7;
     return kx::ParseHeaderDirective(parser, reading_.contents);
   }

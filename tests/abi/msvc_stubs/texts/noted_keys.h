@@ -1,5 +1,4 @@
 #pragma once
 namespace kx {
-class KeyHash {};
-class KeyEqual {};
+class NotedKeys {};
 }  // namespace kx
