@@ -21,20 +21,21 @@ CHARTS = [
 
 
 def curves(measured, prefix, each, factor):
-    """Answers {contender: [(size, value)]}."""
+    """Answers {contender: [(size, value)]} of those with more than one size."""
     found = {}
     for name, value in measured.items():
         if name.startswith(prefix):
             size = int(results.contender(results.row(name)))
             value *= factor * (size if each else 1)
             found.setdefault(results.contender(name), []).append((size, value))
-    return {contender: sorted(points) for contender, points in sorted(found.items())}
+    return {contender: sorted(points) for contender, points in sorted(found.items())
+            if len(points) > 1}
 
 
 def script(path, title, across, up, logarithmic, drawn):
     lines = ["set terminal svg size 720,420 font 'sans,13' background 'white'",
              f"set output '{path}'", f"set title '{title}'", f"set xlabel '{across}'",
-             f"set ylabel '{up}'", "set key left top", "set grid", "set format x '%.0f'"]
+             f"set ylabel '{up}'", "set key left top reverse Left", "set grid", "set format x '%.0f'"]
     if logarithmic:
         lines.append(f"set logscale {logarithmic}")
     if "y" not in logarithmic:

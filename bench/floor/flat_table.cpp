@@ -26,16 +26,21 @@ Bytes FoldedAt(const char* from) {
   return Fold(bytes);
 }
 
-/// A key of less than sixteen bytes, behind which nothing may be read.
+/// Two halves of a short key, which overlap when it has less than twice `half` bytes.
+Bytes Halves(std::string_view key, std::size_t half) {
+  char bytes[16] = {};
+  std::memcpy(bytes, key.data(), half);
+  std::memcpy(bytes + 8, key.data() + key.size() - half, half);
+  return FoldedAt(bytes);
+}
+
+/// A key of less than sixteen bytes, behind which nothing may be read. Two keys of one length give
+/// the same only if they are the same.
 Bytes FoldedShort(std::string_view key) {
-  Bytes bytes = {};
-  if (key.size() >= 8) {
-    std::memcpy(&bytes, key.data(), 8);
-    std::memcpy(reinterpret_cast<char*>(&bytes) + 8, key.data() + key.size() - 8, 8);
-  } else {
-    for (std::size_t at = 0; at < key.size(); ++at) bytes[at] = static_cast<std::uint8_t>(key[at]);
-  }
-  return Fold(bytes);
+  if (key.size() >= 8) return Halves(key, 8);
+  if (key.size() >= 4) return Halves(key, 4);
+  if (key.size() >= 2) return Halves(key, 2);
+  return Halves(key, key.size());
 }
 
 std::uint64_t Multiply(std::uint64_t hash, Bytes bytes) {

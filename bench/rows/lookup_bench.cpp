@@ -36,7 +36,7 @@ void FloorFindIntoBuffer(benchmark::State& state) {
 
 template <typename Texts>
 void FindInOtherCase(benchmark::State& state) {
-  AskFor(state, TextsOf<Texts>(10000), OtherCaseHits(10000));
+  AskFor(state, TextsOf<Texts>(10000), OtherCaseHits());
 }
 
 [[maybe_unused]] const bool kRegistered = [] {

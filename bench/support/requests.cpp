@@ -17,8 +17,20 @@ std::vector<std::string> KeysOf(int catalogueSize, int count) {
   std::vector<std::string> keys;
   const int step = std::max(1, catalogueSize / count);
   for (int number = 0; number < catalogueSize; number += step) {
-    keys.push_back(MakeMessage(number).key);
+    if (static_cast<int>(keys.size()) < count) keys.push_back(MakeMessage(number).key);
   }
+  return keys;
+}
+
+std::vector<std::string> LowerCaseKeys() {
+  std::vector<std::string> keys = KeysOf(kKeysAskedFor, kKeysAskedFor);
+  for (std::string& key : keys) key = LowerCase(key);
+  return keys;
+}
+
+std::vector<std::string> AbsentKeys() {
+  std::vector<std::string> keys;
+  for (int number = 0; number < 1000; ++number) keys.push_back(AbsentKey(number * 10));
   return keys;
 }
 
@@ -38,30 +50,25 @@ Requests::Requests(std::vector<std::string> keys, Order order) : keys_(std::move
 
 const Requests& Hits(int catalogueSize) {
   static std::map<int, Requests> requests;
+  const auto made = requests.find(catalogueSize);
+  if (made != requests.end()) return made->second;
   return requests
       .try_emplace(catalogueSize, KeysOf(catalogueSize, kKeysAskedFor), Requests::Order::kRandom)
       .first->second;
 }
 
-const Requests& OtherCaseHits(int catalogueSize) {
-  static std::map<int, Requests> requests;
-  std::vector<std::string> keys = KeysOf(catalogueSize, kKeysAskedFor);
-  for (std::string& key : keys) key = LowerCase(key);
-  return requests.try_emplace(catalogueSize, std::move(keys), Requests::Order::kRandom)
-      .first->second;
+const Requests& OtherCaseHits() {
+  static const Requests requests(LowerCaseKeys(), Requests::Order::kRandom);
+  return requests;
 }
 
 const Requests& HotHits() {
-  std::vector<std::string> keys = KeysOf(10000, 64);
-  keys.resize(64);
-  static const Requests requests(std::move(keys), Requests::Order::kRepeating);
+  static const Requests requests(KeysOf(kKeysAskedFor, 64), Requests::Order::kRepeating);
   return requests;
 }
 
 const Requests& Misses() {
-  std::vector<std::string> keys;
-  for (int number = 0; number < 1000; ++number) keys.push_back(AbsentKey(number * 10));
-  static const Requests requests(std::move(keys), Requests::Order::kRandom);
+  static const Requests requests(AbsentKeys(), Requests::Order::kRandom);
   return requests;
 }
 

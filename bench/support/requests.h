@@ -31,8 +31,8 @@ class Requests {
 /// Keys that the catalogue of this size has: 10,000 of them, or all when there are fewer.
 const Requests& Hits(int catalogueSize);
 
-/// The same in small letters.
-const Requests& OtherCaseHits(int catalogueSize);
+/// The keys of the catalogue of 10,000 in small letters.
+const Requests& OtherCaseHits();
 
 /// 64 keys of the catalogue of 10,000, again and again: the same few messages in a loop.
 const Requests& HotHits();
