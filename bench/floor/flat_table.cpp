@@ -26,21 +26,24 @@ Bytes FoldedAt(const char* from) {
   return Fold(bytes);
 }
 
-/// Two halves of a short key, which overlap when it has less than twice `half` bytes.
-Bytes Halves(std::string_view key, std::size_t half) {
-  char bytes[16] = {};
-  std::memcpy(bytes, key.data(), half);
-  std::memcpy(bytes + 8, key.data() + key.size() - half, half);
-  return FoldedAt(bytes);
+/// The first and the last bytes of a short key; they overlap when it has less than twice `kHalf`.
+/// Put together in registers: a load of what two stores wrote would wait for both.
+template <std::size_t kHalf>
+Bytes FoldedEnds(std::string_view key) {
+  std::uint64_t first = 0;
+  std::uint64_t last = 0;
+  std::memcpy(&first, key.data(), kHalf);
+  std::memcpy(&last, key.data() + key.size() - kHalf, kHalf);
+  return Fold(reinterpret_cast<Bytes>(Words{first, last}));
 }
 
 /// A key of less than sixteen bytes, behind which nothing may be read. Two keys of one length give
 /// the same only if they are the same.
 Bytes FoldedShort(std::string_view key) {
-  if (key.size() >= 8) return Halves(key, 8);
-  if (key.size() >= 4) return Halves(key, 4);
-  if (key.size() >= 2) return Halves(key, 2);
-  return Halves(key, key.size());
+  if (key.size() >= 8) return FoldedEnds<8>(key);
+  if (key.size() >= 4) return FoldedEnds<4>(key);
+  if (key.size() >= 2) return FoldedEnds<2>(key);
+  return key.empty() ? Bytes{} : FoldedEnds<1>(key);
 }
 
 std::uint64_t Multiply(std::uint64_t hash, Bytes bytes) {
@@ -68,14 +71,17 @@ bool Differ(Bytes one, Bytes other) {
   return (words[0] | words[1]) != 0;
 }
 
+/// Has no branch between the words of a key: nearly every key that is looked at is the right one.
+///
 /// @param stored  a key of the table, with as many bytes as the other
 bool IsKey(const char* stored, std::string_view key) {
   if (key.size() < 16) return !Differ(FoldedShort({stored, key.size()}), FoldedShort(key));
-  for (std::size_t at = 0; at + 16 < key.size(); at += 16) {
-    if (Differ(FoldedAt(stored + at), FoldedAt(key.data() + at))) return false;
-  }
   const std::size_t last = key.size() - 16;
-  return !Differ(FoldedAt(stored + last), FoldedAt(key.data() + last));
+  Bytes differences = FoldedAt(stored + last) ^ FoldedAt(key.data() + last);
+  for (std::size_t at = 0; at < last; at += 16) {
+    differences |= FoldedAt(stored + at) ^ FoldedAt(key.data() + at);
+  }
+  return !Differ(differences, Bytes{});
 }
 
 // A group is eight tags, one for each of its slots: 0 when the slot is free, else seven bits of the
