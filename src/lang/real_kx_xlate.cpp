@@ -30,7 +30,8 @@ CRealKxXlate::CRealKxXlate(const kx::LanguageContext& context, const char* name,
       logRoot_(context.paths.root),
       log_(context.log) {
   LoadFiles(context, country);
-  if (!anyFileFound_ && languageCode_ != kEnglish) {
+  // Nor is it known of a file that cannot be opened for the moment that there is none.
+  if (!anyFileFound_ && IsSettled() && languageCode_ != kEnglish) {
     log_.WriteLine(logRoot_, {kx::NoFilesLine(displayName_)});
   }
   if (contents_.charset.empty()) contents_.charset = kDefaultCharset;

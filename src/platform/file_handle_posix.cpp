@@ -43,12 +43,12 @@ int MoveFromStandardStreams(int descriptor) {
 /// -1 and a reason in `errno` when `path` cannot be opened.
 int Open(const char* path, int flags) {
   constexpr mode_t kReadAndWriteForAll = 0666;  // less the process's mask
-  for (int pauses = 0;; ++pauses) {
+  for (int pauses = 0;;) {
     const int descriptor = ::open(path, flags | kNeverWait, kReadAndWriteForAll);
     if (descriptor < 0 && errno == EINTR) continue;
     // Another program has a lease on the file, and the system has told it by now.
     const bool isHeld = descriptor < 0 && errno == EAGAIN;
-    if (!isHeld || pauses == kMostPauses) return MoveFromStandardStreams(descriptor);
+    if (!isHeld || pauses++ == kMostPauses) return MoveFromStandardStreams(descriptor);
     Pause();
   }
 }
