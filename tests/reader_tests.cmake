@@ -34,5 +34,6 @@ kxxlate_unit_test(reader_memory_test
   bundles/properties_rows.h
   bundles/lookup_memory_test.cpp
   format/insertion_memory_test.cpp
+  log/log_memory_test.cpp
   support/failing_new.cpp
   support/failing_new.h)

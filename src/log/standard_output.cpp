@@ -1,6 +1,7 @@
 #include "log/standard_output.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "platform/standard_stream.h"
 
@@ -16,10 +17,11 @@ StandardOutputBuffer::int_type StandardOutputBuffer::overflow(int_type c) {
   return traits_type::not_eof(c);
 }
 
+// What cannot be written is lost silently; the stream goes on.
 int StandardOutputBuffer::sync() {
-  const bool isWhole = WriteToStandardStream(StandardStream::kOutput, pending_);
-  pending_.clear();
-  return isWhole ? 0 : -1;
+  const std::string text = std::exchange(pending_, {});
+  WriteToStandardStream(StandardStream::kOutput, text);
+  return 0;
 }
 
 }  // namespace kx

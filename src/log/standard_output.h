@@ -22,7 +22,11 @@ class StandardOutputBuffer final : public std::streambuf {
 /// The process's standard output as a stream.
 class StandardOutputStream final : public std::ostream {
  public:
-  StandardOutputStream() : std::ostream(nullptr) { init(&buffer_); }
+  StandardOutputStream() : std::ostream(nullptr) {
+    init(&buffer_);
+    // Lets std::bad_alloc out, or the writer would take a lost text for a written one.
+    exceptions(std::ios::badbit);
+  }
 
  private:
   StandardOutputBuffer buffer_;
