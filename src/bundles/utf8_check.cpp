@@ -13,10 +13,10 @@ constexpr int kLongestSequence = 6;
 
 bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
-/// Length of the sequence at the start of `text`, which is not empty; 0 when it is broken.
+/// Length of the sequence at the start of `text`, whose first byte is not ASCII; 0 when it is
+/// broken.
 std::size_t SequenceLength(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text[0]);
-  if (lead < 0x80) return 1;
   const int length = std::countl_one(lead);
   if (length < 2 || length > kLongestSequence) return 0;
   if (text.size() < static_cast<std::size_t>(length)) return 0;
@@ -30,14 +30,20 @@ std::size_t SequenceLength(std::string_view text) {
   return leadHasBits || next >= 0x80 + (0x100 >> length) ? static_cast<std::size_t>(length) : 0;
 }
 
-/// How many bytes at the beginning of `text` are ASCII, in whole words.
-std::size_t AsciiWords(std::string_view text) {
+/// How many bytes at the beginning of `text` are ASCII. Eight at a time, since most texts are
+/// little else, and in those that are not the first other byte of a word is found without a loop.
+std::size_t AsciiLength(std::string_view text) {
   constexpr std::uint64_t kTopBits = 0x8080808080808080;
   std::size_t at = 0;
   for (std::uint64_t word; at + sizeof word <= text.size(); at += sizeof word) {
     std::memcpy(&word, text.data() + at, sizeof word);
-    if ((word & kTopBits) != 0) break;
+    const std::uint64_t others = word & kTopBits;
+    if (others == 0) continue;
+    constexpr bool kLittle = std::endian::native == std::endian::little;
+    const int bits = kLittle ? std::countr_zero(others) : std::countl_zero(others);
+    return at + static_cast<std::size_t>(bits) / 8;
   }
+  while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80) ++at;
   return at;
 }
 
@@ -45,7 +51,7 @@ std::size_t AsciiWords(std::string_view text) {
 
 bool IsWellFormedUtf8(std::string_view text) noexcept {
   for (;;) {
-    text.remove_prefix(AsciiWords(text));
+    text.remove_prefix(AsciiLength(text));
     if (text.empty()) return true;
     const std::size_t length = SequenceLength(text);
     if (length == 0) return false;
