@@ -129,7 +129,6 @@ void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTa
                           ProblemSink& problems) {
   TableFiller filler(table);
   ReadPropertiesStream(fileName, stream, filler, problems);
-  table.Fit();
 }
 
 bool ReadPropertiesFile(const char* fileName, PropertyTable& table, bool* isSettled) {

@@ -29,9 +29,6 @@ class PropertyTable {
   /// holds a NUL. Throws std::bad_alloc, with the table as it was.
   void Set(std::string_view key, std::string_view text);
 
-  /// Gives back room that a file of a known size would not have taken.
-  void Fit() { keys_.Fit(); }
-
   std::size_t Size() const noexcept { return keys_.Size(); }
 
   /// Calls `action(key, text)` for each entry, in no particular order.

@@ -12,7 +12,7 @@ namespace kx {
 namespace {
 
 /// An object that is made like any other and never destroyed: threads of a host may still look
-/// texts up while the process ends, and translators that are never freed point at pooled strings.
+/// texts up while the process ends, and translators that nobody frees point at interned strings.
 template <class T>
 class NeverDestroyed {
  public:

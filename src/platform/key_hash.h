@@ -11,11 +11,11 @@ namespace kx {
 
 constexpr std::uint64_t kHashFactor = 65599;
 
-/// A hash in which ASCII case does not count, of another kind in each process: whoever writes
-/// catalogues, or sends locales, cannot make keys that collide.
+/// A hash in which ASCII case does not count, of another kind in each process: whoever sends
+/// locales cannot make any that collide.
 std::size_t SeededHash(std::string_view key) noexcept;
 
-/// Hash of keys and locales.
+/// Hash of locales.
 struct KeyHash {
   using is_transparent = void;
 

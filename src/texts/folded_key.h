@@ -15,7 +15,7 @@
 
 namespace kx {
 
-/// Bytes that may be read behind the end of a key that is stored; EqualFolded does.
+/// Bytes that may be read behind the end of a key that is stored; EqualKey does.
 constexpr std::size_t kKeyPadding = 16;
 
 namespace folded {
@@ -62,13 +62,6 @@ inline Bytes LoadShort(const char* bytes, std::size_t size) noexcept {
   return std::bit_cast<Bytes>(words);
 }
 
-/// Both halves of the whole product, which depend on every bit of both factors.
-inline std::uint64_t Mix(std::uint64_t a, std::uint64_t b) noexcept {
-  __extension__ using Wide = unsigned __int128;
-  const Wide product = static_cast<Wide>(a) * b;
-  return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
-}
-
 inline std::uint64_t MixBlock(std::uint64_t hash, Bytes block, const HashSeed& seed) noexcept {
   const auto words = std::bit_cast<Words>(block);
   return Mix(words[0] ^ seed.first, words[1] ^ hash);
@@ -97,7 +90,8 @@ template <class Case>
 std::uint64_t HashKey(std::string_view key, const HashSeed& seed) noexcept {
   const char* bytes = key.data();
   std::size_t left = key.size();
-  std::uint64_t hash = seed.second ^ left;
+  // Added, and by a factor, so that no change of a byte makes up for one of the size.
+  std::uint64_t hash = seed.second + left * kOddFactor;
   if (left < folded::kBlockBytes) {
     return folded::MixBlock(hash, Case::Prepare(folded::LoadShort(bytes, left)), seed);
   }

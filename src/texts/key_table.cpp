@@ -31,14 +31,6 @@ void KeySlots::Add(const char* stored, std::uint64_t hash) {
   ++size_;
 }
 
-void KeySlots::Reserve(std::size_t count) {
-  if (count > most_) Resize(count);
-}
-
-void KeySlots::Fit() {
-  if (size_ < most_ / 2) Resize(size_);
-}
-
 void KeySlots::Resize(std::size_t count) {
   const std::size_t capacity = std::max(kFewestSlots, count * 3 / kKeysOfThreeSlots + 1);
   if (capacity > kMostSlots) throw std::bad_alloc();

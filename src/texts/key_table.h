@@ -27,12 +27,6 @@ class KeySlots {
   /// Throws std::bad_alloc, with the table as it was.
   void Add(const char* stored, std::uint64_t hash);
 
-  /// Makes room for `count` keys in all. Throws std::bad_alloc, with the table as it was.
-  void Reserve(std::size_t count);
-
-  /// Gives back room, if much of it is not used. Throws std::bad_alloc, with the table as it was.
-  void Fit();
-
   std::size_t Size() const noexcept { return size_; }
 
   /// Calls `action` with the place of each key, in no particular order.

@@ -31,8 +31,6 @@ void TextArena::AddChunk(std::size_t size) {
   next_ = static_cast<char*>(memory) + sizeof(Chunk);
   left_ = room;
   total_ += room;
-  // What is read behind the last text has a value.
-  std::memset(next_ + room, 0, kKeyPadding);
 }
 
 char* PutText(char* place, std::string_view text) noexcept {

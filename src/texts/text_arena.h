@@ -2,7 +2,7 @@
 #define KX_TEXTS_TEXT_ARENA_H
 
 #include <cstddef>
-#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "texts/folded_key.h"
@@ -25,6 +25,8 @@ class TextArena {
     char* const place = next_;
     next_ += size;
     left_ -= size;
+    // What is read behind the text has a value.
+    std::memset(next_, 0, kKeyPadding);
     return place;
   }
 

@@ -155,6 +155,18 @@ TEST(FoldedKey, HashesOfOtherSeedsAreOthers) {
   }
 }
 
+// Pairs in which one byte could make up for the size, if the size met it in the same operation.
+TEST(FoldedKey, HashesTellSizesApartWhateverTheBytesSay) {
+  EXPECT_NE(Hash("bccccccc"), Hash("bcccccccc"));
+  std::set<std::uint64_t> hashes;
+  for (std::size_t size = 33; size <= 47; ++size) {
+    std::string key(size, '_');
+    key[8] = static_cast<char>('`' ^ (size & 31));
+    hashes.insert(Hash(key));
+  }
+  EXPECT_EQ(15u, hashes.size());
+}
+
 // Keys of catalogues differ in a few digits; each half of the hash has to tell them apart.
 TEST(FoldedKey, HashesOfNumberedKeysSpread) {
   std::set<std::uint32_t> high;

@@ -50,8 +50,6 @@ class Keys {
     EXPECT_EQ(model_.size(), all.size());
   }
 
-  kx::KeyTable& Table() { return table_; }
-
  private:
   kx::TextArena arena_;
   kx::KeyTable table_;
@@ -93,17 +91,6 @@ TEST_P(KeyTableOfSize, HoldsAllKeysAndNoOthers) {
   for (int number = 0; number < GetParam(); ++number) {
     ASSERT_EQ(nullptr, keys.Find("Absent." + std::to_string(number)));
   }
-}
-
-TEST_P(KeyTableOfSize, HoldsThemAfterRoomWasMadeAndGivenBack) {
-  Keys keys;
-  keys.Table().Reserve(static_cast<std::size_t>(GetParam()) * 10);
-  for (int number = 0; number < GetParam(); ++number) keys.Add(std::to_string(number));
-  keys.ExpectLikeModel();
-  keys.Table().Fit();
-  keys.ExpectLikeModel();
-  for (int number = 0; number < GetParam(); ++number) keys.Add("x" + std::to_string(number));
-  keys.ExpectLikeModel();
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, KeyTableOfSize,
