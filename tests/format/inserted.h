@@ -1,27 +1,18 @@
 #ifndef KX_TESTS_FORMAT_INSERTED_H
 #define KX_TESTS_FORMAT_INSERTED_H
 
-#include <cstdarg>
 #include <functional>
 #include <memory>
 #include <string>
 
-#include "CKxXlate.h"
-
-/// InsertVariableVA for callers that have no list.
-inline void InsertList(char* buffer, KxSize size, const char* format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
-  CKxXlate::InsertVariableVA(buffer, size, format, arguments);
-  va_end(arguments);
-}
+#include "format/varied_calls.h"
 
 /// What InsertVariableVA makes of a text and these values.
 template <class... Values>
 std::string Inserted(const std::string& format, Values... values) {
-  constexpr KxSize kAmple = 20000;
-  const std::unique_ptr<char[]> buffer(new char[kAmple]);
-  InsertList(buffer.get(), kAmple, format.c_str(), values...);
+  constexpr KxSize kRoom = 20000;
+  const std::unique_ptr<char[]> buffer(new char[kRoom]);
+  Vary(buffer.get(), kRoom, format.c_str(), values...);
   return buffer.get();
 }
 

@@ -121,7 +121,7 @@ TEST(ConversionFlagsOfSlots, AFractionIsCutAt255Bytes) {
   char line[512];
   CKxXlate::InsertVariable(line, sizeof line, "%f:1|", 1e300);
   char whole[512];
-  InsertList(whole, sizeof whole, "%f", 1e300);
+  Vary(whole, sizeof whole, "%f", 1e300);
   EXPECT_EQ(std::string(whole, 255) + "|", line);
 }
 

@@ -14,26 +14,34 @@
 
 namespace {
 
+/// Holds a file, and lets it go soon.
+class HeldForAMoment {
+ public:
+  explicit HeldForAMoment(const std::string& path)
+      : held_(std::make_unique<HeldFile>(path)), holder_([this] {
+          ::Sleep(15);
+          held_.reset();
+        }) {}
+
+ private:
+  std::unique_ptr<HeldFile> held_;
+  std::jthread holder_;
+};
+
 TEST(PassingFailureOnWindows, IsOverWhenTheFileIsLetGoSoon) {
   const TempTree tree;
   tree.Write("file", "bytes");
-  auto held = std::make_unique<HeldFile>(tree.Path("file"));
-  std::jthread holder([&held] {
-    ::Sleep(15);
-    held.reset();
-  });
+  const HeldForAMoment held(tree.Path("file"));
   EXPECT_EQ("bytes", ReadThroughStream(tree.Path("file")));
 }
 
 TEST(PassingFailureOnWindows, IsOverForAWriterToo) {
   const TempTree tree;
   tree.Write("file", "bytes");
-  auto held = std::make_unique<HeldFile>(tree.Path("file"));
-  std::jthread holder([&held] {
-    ::Sleep(15);
-    held.reset();
-  });
-  EXPECT_TRUE(Append(tree.Path("file"), "!"));
+  {
+    const HeldForAMoment held(tree.Path("file"));
+    EXPECT_TRUE(Append(tree.Path("file"), "!"));
+  }
   EXPECT_EQ("bytes!", tree.Read("file"));
 }
 
