@@ -3,11 +3,15 @@
 #include <string>
 
 #include "bundles/utf8_check.h"
+#include "platform/file_status.h"
 #include "platform/file_streams.h"
 #include "platform/utf8_text.h"
+#include "texts/fill_forecast.h"
 
 namespace kx {
 namespace {
+
+constexpr std::size_t kLinesPerProgress = FillForecast<PropertyTable>::kLines;
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -48,6 +52,7 @@ class PropertiesReader {
   void Read() {
     std::string_view line;
     while (lines_.ReadPropertiesLine(line)) {
+      if (lines_.LineNumber() % kLinesPerProgress == 0) receiver_.Progress(lines_.BytesTaken());
       if (line.empty() || line.front() == '#') continue;
       const std::size_t separator = line.find('=');
       if (separator == std::string_view::npos) {
@@ -94,11 +99,14 @@ class PropertiesReader {
 
 class TableFiller final : public PropertyReceiver {
  public:
-  explicit TableFiller(PropertyTable& table) : table_(table) {}
+  TableFiller(PropertyTable& table, std::size_t fileBytes)
+      : table_(table), forecast_(table, fileBytes) {}
   void Entry(std::string_view key, std::string_view text) override { table_.Set(key, text); }
+  void Progress(std::size_t bytesTaken) override { forecast_.Update(bytesTaken); }
 
  private:
   PropertyTable& table_;
+  FillForecast<PropertyTable> forecast_;
 };
 
 }  // namespace
@@ -108,7 +116,7 @@ bool PropertiesLines::ReadPropertiesLine(std::string_view& line) {
   const LineReader::Line read = lines_.Next();
   if (read.kind == LineReader::Kind::kLast && read.text.empty()) return false;
   ++lineNumber_;
-  line = read.text.substr(0, read.text.find('\0'));
+  line = lines_.HasNul() ? read.text.substr(0, read.text.find('\0')) : read.text;
   if (!IsWellFormedUtf8(line)) {
     problems_.Line(ProblemAtLine(fileName_, lineNumber_, kNotUtf8));
     line = {};
@@ -126,8 +134,8 @@ void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyRe
 }
 
 void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTable& table,
-                          ProblemSink& problems) {
-  TableFiller filler(table);
+                          ProblemSink& problems, std::size_t fileBytes) {
+  TableFiller filler(table, fileBytes);
   ReadPropertiesStream(fileName, stream, filler, problems);
 }
 
@@ -139,7 +147,9 @@ bool ReadPropertiesFile(const char* fileName, PropertyTable& table, bool* isSett
   KxIfstreamOpen(stream, fileName);
   const bool isOpen = !stream.fail();
   if (isOpen) {
-    ReadPropertiesStream(fileName, stream, table, problems);
+    KxFileStatus status;
+    KxStat(fileName, &status);
+    ReadPropertiesStream(fileName, stream, table, problems, static_cast<std::size_t>(status.size));
   } else {
     problems.Line(CannotOpenFile(fileName));
   }

@@ -29,6 +29,9 @@ class PropertiesLines {
   /// Of the line that was read last, from 1.
   std::size_t LineNumber() const noexcept { return lineNumber_; }
 
+  /// As LineReader::BytesTaken.
+  std::size_t BytesTaken() const noexcept { return lines_.BytesTaken(); }
+
  private:
   const char* const fileName_;
   const std::istream& stream_;
@@ -42,6 +45,9 @@ class PropertyReceiver {
  public:
   /// @param text  with its escapes and continuations resolved; both are valid during the call
   virtual void Entry(std::string_view key, std::string_view text) = 0;
+
+  /// Is told now and then how many bytes of the file have been read.
+  virtual void Progress(std::size_t /*bytesTaken*/) {}
 
  protected:
   ~PropertyReceiver() = default;
@@ -58,8 +64,10 @@ void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyRe
                           ProblemSink& problems);
 
 /// The same into a table; a key read again replaces the text, not the key's spelling.
+///
+/// @param fileBytes  by which the table foresees its size; 0 when not known
 void ReadPropertiesStream(const char* fileName, std::istream& stream, PropertyTable& table,
-                          ProblemSink& problems);
+                          ProblemSink& problems, std::size_t fileBytes = 0);
 
 /// Reads the file `fileName` (UTF-8) into `table`.
 ///

@@ -31,6 +31,9 @@ class PropertyTable {
 
   std::size_t Size() const noexcept { return keys_.Size(); }
 
+  /// As KeyBuckets::Expect.
+  void Expect(std::size_t count) noexcept { keys_.Expect(count); }
+
   /// Calls `action(key, text)` for each entry, in no particular order.
   template <class Action>
   void ForEach(const Action& action) const {

@@ -58,9 +58,11 @@ void ParseBodyClause(LangFileParser& parser, LanguageContents& contents) {
   const std::string_view line = parser.cursor;
   if (line.front() == '&') return Continue(parser, line.substr(1));
   for (const Clause& clause : kClauses) {
-    if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
+    if (line.size() < clause.keyword.size()) continue;
+    // The byte behind the keyword first, since it alone rules out most clauses.
     const std::string_view behind = line.substr(clause.keyword.size());
     if (!behind.starts_with(' ') && !(clause.mayEndLine && behind.empty())) continue;
+    if (!StartsWithIgnoringAsciiCase(line, clause.keyword)) continue;
     const std::string_view text = KxUTF8TrimStart(behind);
     return clause.mayEndLine ? TakeValue(parser, clause, text)
                              : OpenPair(parser, contents, clause, text);

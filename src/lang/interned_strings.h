@@ -28,6 +28,11 @@ class InternTable {
   /// The same for a text without a NUL in it.
   const char* InternString(std::string_view text);
 
+  std::size_t Size() const noexcept { return strings_.Size(); }
+
+  /// As KeyBuckets::Expect.
+  void Expect(std::size_t count) noexcept { strings_.Expect(count); }
+
  private:
   TextArena texts_;
   ExactKeyTable strings_;

@@ -5,6 +5,7 @@
 #include "lang/body_clauses.h"
 #include "lang/header_directives.h"
 #include "platform/utf8_text.h"
+#include "texts/fill_forecast.h"
 #include "texts/line_reader.h"
 
 namespace kx {
@@ -19,7 +20,6 @@ bool IsComment(std::string_view text) {
 
 void TakeLine(LangFileParser& parser, std::string_view text) {
   ++parser.lineNumber;
-  text = text.substr(0, text.find('\0'));
   while (!text.empty() && IsStrippedAtTheEnd(text.back())) text.remove_suffix(1);
   parser.line = text;
   parser.cursor = KxUTF8TrimStart(text);
@@ -27,7 +27,10 @@ void TakeLine(LangFileParser& parser, std::string_view text) {
 
 }  // namespace
 
-bool ReadLangFile(LangFileParser& parser, std::istream& stream, LanguageContents& contents) {
+bool ReadLangFile(LangFileParser& parser, std::istream& stream, LanguageContents& contents,
+                  std::size_t fileBytes) {
+  FillForecast texts(contents.texts, fileBytes);
+  FillForecast values(parser.strings, fileBytes);
   LineReader lines(*stream.rdbuf(), kMostLangLineBytes);
   bool inHeader = true;
   bool headerAccepted = false;
@@ -36,7 +39,11 @@ bool ReadLangFile(LangFileParser& parser, std::istream& stream, LanguageContents
     const LineReader::Line read = lines.Next();
     kind = read.kind;
     // What stands behind the last line feed counts as a line, too, even when it is nothing.
-    TakeLine(parser, read.text);
+    TakeLine(parser, lines.HasNul() ? read.text.substr(0, read.text.find('\0')) : read.text);
+    if (parser.lineNumber % texts.kLines == 0) {
+      texts.Update(lines.BytesTaken());
+      values.Update(lines.BytesTaken());
+    }
     if (kind == LineReader::Kind::kTooLong) break;
     if (IsComment(parser.cursor)) continue;
     if (parser.cursor.empty()) {

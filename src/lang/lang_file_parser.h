@@ -60,10 +60,12 @@ struct LangFileParser {
 ///
 /// Reading ends early at a line that is too long; what was complete by then is kept.
 ///
+/// @param fileBytes  by which the tables foresee their sizes; 0 when not known
 /// @return true: problems never make a file useless
 ///
 /// Throws std::bad_alloc only.
-bool ReadLangFile(LangFileParser& parser, std::istream& stream, LanguageContents& contents);
+bool ReadLangFile(LangFileParser& parser, std::istream& stream, LanguageContents& contents,
+                  std::size_t fileBytes = 0);
 
 }  // namespace kx
 

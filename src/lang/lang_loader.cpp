@@ -78,7 +78,7 @@ bool LoadLangFile(const LanguageContext& context, const LangFile& file, Language
   candidate.status = status;
   LogSink problems(context.log, context.paths.root);
   LangFileParser parser(relative, problems, context.strings);
-  ReadLangFile(parser, stream, contents);
+  ReadLangFile(parser, stream, contents, static_cast<std::size_t>(status.size));
   candidate.isUnsettled = stream.MayWorkLater();
   return true;
 }

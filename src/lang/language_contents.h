@@ -29,6 +29,11 @@ class LanguageTable {
   /// it was.
   void Set(std::string_view key, const char* value);
 
+  std::size_t Size() const noexcept { return keys_.Size(); }
+
+  /// As KeyBuckets::Expect.
+  void Expect(std::size_t count) noexcept { keys_.Expect(count); }
+
  private:
   /// On any address: the pointer stands where the text before it ends.
   static const char* ValueBefore(const char* key) noexcept {

@@ -7,41 +7,61 @@
 namespace kx {
 namespace {
 
-// Two slots in three hold a key: fuller tables search longer for keys that they lack, emptier ones
-// take more memory for each that they have.
-constexpr std::size_t kKeysOfThreeSlots = 2;
-constexpr std::size_t kFewestSlots = 4;
+// Two slots in three hold a key. Fuller tables have more keys that their bucket had no room for.
+constexpr std::size_t kKeysOfBucket = 4;
 
-// A place in the table is a part of a hash of 32 bits.
-constexpr std::size_t kMostSlots = std::size_t{1} << 32;
+constexpr std::size_t kMostBuckets = std::size_t{1} << KeyTag::kBits;
 
 }  // namespace
 
-void KeySlots::Move(const char* from, std::uint64_t hash, const char* to) noexcept {
-  std::size_t at = Home(hash);
-  while (slots_[at].key != from) at = Next(at);
-  slots_[at].key = to;
+void KeyBuckets::Move(const char* from, std::uint64_t hash, const char* to) noexcept {
+  for (std::size_t at = Home(KeyTag(hash));; at = Next(at)) {
+    KeyBucket& bucket = buckets_[at];
+    for (std::size_t slot = 0; slot < bucket.Size(); ++slot) {
+      if (bucket.Place(slot) == from) return bucket.SetPlace(slot, to);
+    }
+  }
 }
 
-void KeySlots::Add(const char* stored, std::uint64_t hash) {
-  if (size_ == most_) Resize(size_ + size_ / 2 + 1);
-  std::size_t at = Home(hash);
-  while (slots_[at].key != nullptr) at = Next(at);
-  slots_[at] = {stored, hash};
+void KeyBuckets::Add(const char* stored, std::uint64_t hash) {
+  if (!KeyBucket::CanHold(stored)) throw std::bad_alloc();
+  if (size_ == most_) Resize(NextSize());
+  Put(stored, KeyTag(hash));
   ++size_;
 }
 
-void KeySlots::Resize(std::size_t count) {
-  const std::size_t capacity = std::max(kFewestSlots, count * 3 / kKeysOfThreeSlots + 1);
-  if (capacity > kMostSlots) throw std::bad_alloc();
-  auto old = std::exchange(slots_, std::make_unique<Slot[]>(capacity));
-  const std::size_t oldCapacity = std::exchange(capacity_, capacity);
-  most_ = capacity * kKeysOfThreeSlots / 3;
-  for (std::size_t from = 0; from < oldCapacity; ++from) {
-    if (old[from].key == nullptr) continue;
-    std::size_t at = Home(old[from].hash);
-    while (slots_[at].key != nullptr) at = Next(at);
-    slots_[at] = old[from];
+std::size_t KeyBuckets::NextSize() const noexcept {
+  constexpr std::size_t kMostTimes = 8;
+  if (expected_ <= size_) return size_ + size_ / 2;
+  // One in 32 more, or a table would grow for the few keys that were not foreseen.
+  return std::min(expected_ + expected_ / 32, size_ * kMostTimes);
+}
+
+void KeyBuckets::Put(const char* stored, KeyTag tag) noexcept {
+  std::size_t at = Home(tag);
+  while (buckets_[at].IsFull()) at = Next(at);
+  buckets_[at].Set(buckets_[at].Size(), tag, stored);
+}
+
+void KeyBuckets::Resize(std::size_t keys) {
+  const std::size_t count = keys / kKeysOfBucket + 1;
+  if (count > kMostBuckets) throw std::bad_alloc();
+  const std::size_t bytes = count * sizeof(KeyBucket);
+  std::size_t room = bytes + alignof(KeyBucket);
+  auto memory = std::make_unique_for_overwrite<char[]>(room);
+  void* place = memory.get();
+  auto* const buckets = static_cast<KeyBucket*>(std::align(alignof(KeyBucket), bytes, place, room));
+  std::uninitialized_value_construct_n(buckets, count);
+
+  const auto oldMemory = std::exchange(memory_, std::move(memory));
+  const KeyBucket* const old = std::exchange(buckets_, buckets);
+  const std::size_t oldCount = std::exchange(count_, count);
+  most_ = count * kKeysOfBucket;
+  for (std::size_t from = 0; from < oldCount; ++from) {
+    const KeyBucket& bucket = old[from];
+    for (std::size_t slot = 0; slot < bucket.Size(); ++slot) {
+      Put(bucket.Place(slot), bucket.Tag(slot));
+    }
   }
 }
 

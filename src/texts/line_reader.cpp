@@ -34,7 +34,9 @@ LineReader::Line LineReader::Next() {
 LineReader::Line LineReader::Take(std::size_t size, Kind kind) {
   const std::string_view text(block_.get() + begin_, size);
   if (size > mostBytes_) return {text.substr(0, mostBytes_), Kind::kTooLong};
-  begin_ += size + (kind == Kind::kLine ? 1 : 0);
+  const std::size_t taken = size + (kind == Kind::kLine ? 1 : 0);
+  begin_ += taken;
+  taken_ += taken;
   searched_ = 0;
   return {text, kind};
 }
@@ -57,6 +59,7 @@ void LineReader::ReadMore() {
   const std::streamsize ready = source_.in_avail();
   const std::streamsize asked = ready > 0 ? std::min(ready, room) : room;
   const std::streamsize count = Read(block_.get() + kept, asked);
+  hasNul_ = hasNul_ || std::memchr(block_.get() + kept, '\0', static_cast<std::size_t>(count));
   end_ += static_cast<std::size_t>(count);
   isAtEnd_ = count < asked;
 }

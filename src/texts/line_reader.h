@@ -35,6 +35,13 @@ class LineReader {
   /// the source throws anything else it ends, as at any read that fails.
   Line Next();
 
+  /// Bytes of the lines that were handed out, and of their line feeds.
+  std::size_t BytesTaken() const noexcept { return taken_; }
+
+  /// Whether there is a NUL in what was read so far, so that lines of files without any need not be
+  /// searched for one.
+  bool HasNul() const noexcept { return hasNul_; }
+
  private:
   Line Take(std::size_t size, Kind kind);
   void ReadMore();
@@ -47,7 +54,9 @@ class LineReader {
   std::size_t begin_ = 0;     ///< of what was not handed out
   std::size_t end_ = 0;       ///< of what was read
   std::size_t searched_ = 0;  ///< of these, the bytes in which no line feed is
-  bool isAtEnd_ = false;      ///< the source has no more
+  std::size_t taken_ = 0;
+  bool hasNul_ = false;
+  bool isAtEnd_ = false;  ///< the source has no more
 };
 
 }  // namespace kx

@@ -75,6 +75,28 @@ TEST(LineReader, HasTheLastLineAgainAndAgain) {
   }
 }
 
+TEST(LineReader, CountsTheBytesThatItHandedOut) {
+  std::stringbuf source("a\n\nbcd");
+  kx::LineReader reader(source);
+  EXPECT_EQ(0u, reader.BytesTaken());
+  for (const std::size_t taken : {2u, 3u, 6u, 6u}) {
+    reader.Next();
+    EXPECT_EQ(taken, reader.BytesTaken());
+  }
+}
+
+TEST(LineReader, KnowsFromWhereOnThereMayBeNuls) {
+  const std::string without(300000, 'x');
+  std::stringbuf source(without + "\na" + std::string(1, '\0') + "b\nend");
+  kx::LineReader reader(source);
+  EXPECT_FALSE(reader.HasNul());
+  EXPECT_EQ(without, reader.Next().text);
+  EXPECT_EQ(3u, reader.Next().text.size());
+  EXPECT_TRUE(reader.HasNul());
+  EXPECT_EQ("end", reader.Next().text);
+  EXPECT_TRUE(reader.HasNul());
+}
+
 class LinesOfSize : public testing::TestWithParam<std::size_t> {};
 
 // Sizes around those of the reader's block, in which lines begin at every place.

@@ -1,0 +1,117 @@
+#ifndef KX_TEXTS_KEY_BUCKET_H
+#define KX_TEXTS_KEY_BUCKET_H
+
+#include <array>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace kx {
+
+/// What a table keeps of a hash: enough to find the key's bucket again in a table of another size.
+class KeyTag {
+ public:
+  static constexpr int kBits = 31;
+
+  explicit KeyTag(std::uint64_t hash) noexcept : bits_(hash >> (64 - kBits)) {}
+  KeyTag(std::uint16_t low, std::uint16_t high) noexcept
+      : bits_(std::uint64_t{high} << kLowBits | (low & kLowMask)) {}
+
+  std::uint64_t Bits() const noexcept { return bits_; }
+
+  /// What is compared in a bucket; never 0, which stands for no key.
+  std::uint16_t Low() const noexcept {
+    return static_cast<std::uint16_t>(bits_ & kLowMask) | kInUse;
+  }
+  /// The rest, by which the bucket is chosen.
+  std::uint16_t High() const noexcept { return static_cast<std::uint16_t>(bits_ >> kLowBits); }
+
+ private:
+  static constexpr int kLowBits = 15;
+  static constexpr std::uint16_t kInUse = 1 << kLowBits;
+  static constexpr std::uint16_t kLowMask = kInUse - 1;
+
+  std::uint64_t bits_;
+};
+
+/// Slots of a bucket, lowest first.
+class KeySlots {
+ public:
+  explicit KeySlots(std::uint64_t bytes) noexcept : bytes_(bytes) {}
+
+  bool IsEmpty() const noexcept { return bytes_ == 0; }
+  std::size_t First() const noexcept { return static_cast<unsigned>(std::countr_zero(bytes_)) / 8; }
+  void RemoveFirst() noexcept { bytes_ &= ~(std::uint64_t{0xFF} << First() * 8); }
+
+ private:
+  std::uint64_t bytes_;  ///< one for each slot, of no bits or of all
+};
+
+/// Up to six keys, in one line of the cache. Filled from the front.
+class alignas(64) KeyBucket {
+ public:
+  static constexpr std::size_t kSlots = 6;
+
+  bool IsFull() const noexcept { return low_[kSlots - 1] != 0; }
+
+  std::size_t Size() const noexcept {
+    std::size_t size = 0;
+    while (size < kSlots && low_[size] != 0) ++size;
+    return size;
+  }
+
+  /// The slots whose keys may have `tag`.
+  KeySlots Matches(KeyTag tag) const noexcept {
+    Tags tags;
+    std::memcpy(&tags, low_.data(), sizeof tags);
+    const Tags wanted = Tags{} + tag.Low();
+    const auto narrow = __builtin_convertvector(tags == wanted, Narrow);
+    return KeySlots(std::bit_cast<std::uint64_t>(narrow));
+  }
+
+  KeyTag Tag(std::size_t slot) const noexcept { return {low_[slot], high_[slot]}; }
+
+  const char* Place(std::size_t slot) const noexcept {
+    std::uint64_t place;
+    // With the two bytes behind it, which are shifted out.
+    std::memcpy(&place, places_.data() + slot * kPlaceBytes, sizeof place);
+    return std::bit_cast<const char*>(place << kUnusedBits >> kUnusedBits);
+  }
+
+  void SetPlace(std::size_t slot, const char* place) noexcept {
+    std::memcpy(places_.data() + slot * kPlaceBytes, &place, kPlaceBytes);
+  }
+
+  void Set(std::size_t slot, KeyTag tag, const char* place) noexcept {
+    low_[slot] = tag.Low();
+    high_[slot] = tag.High();
+    SetPlace(slot, place);
+  }
+
+  /// Whether a bucket can hold this place.
+  static bool CanHold(const char* place) noexcept {
+    return reinterpret_cast<std::uintptr_t>(place) >> (64 - kUnusedBits) == 0;
+  }
+
+ private:
+  // The addresses of a process have no more than 47 bits on the systems that this is for, unless it
+  // asks for larger ones.
+  static constexpr std::size_t kPlaceBytes = 6;
+  static constexpr int kUnusedBits = 16;
+  static_assert(sizeof(const char*) == 8 && std::endian::native == std::endian::little);
+
+  static constexpr std::size_t kLanes = 8;
+  using Tags = std::uint16_t __attribute__((vector_size(kLanes * 2)));
+  using Narrow = std::uint8_t __attribute__((vector_size(kLanes)));
+
+  std::array<char, kSlots * kPlaceBytes> places_{};
+  std::array<std::uint16_t, kLanes> low_{};
+  std::array<std::uint16_t, kSlots> high_{};
+};
+
+static_assert(sizeof(KeyBucket) == 64);
+
+}  // namespace kx
+
+#endif  // KX_TEXTS_KEY_BUCKET_H
