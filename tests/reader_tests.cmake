@@ -21,6 +21,7 @@ kxxlate_unit_test(texts_test
   texts/folded_key_test.cpp
   texts/key_table_test.cpp
   texts/line_reader_test.cpp
+  texts/measured_text_test.cpp
   texts/noted_keys_test.cpp
   texts/table_growth_test.cpp
   support/failing_new.cpp)

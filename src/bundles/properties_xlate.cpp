@@ -57,7 +57,12 @@ const char* PropertiesXlate::GetText(const char* key) {
 }
 
 bool PropertiesXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
-  return kx::AnswerLookup(dst, size, GetText(key), dflt);
+  const char* const found = GetText(key);
+  if (found == nullptr || dst == nullptr || size == 0) {
+    return kx::AnswerLookup(dst, size, found, dflt);
+  }
+  kx::CopyMeasuredText(dst, size, found);
+  return true;
 }
 
 const char* PropertiesXlate::GetLabel(const char* /*key*/) { return nullptr; }

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "texts/key_table.h"
+#include "texts/measured_text.h"
 #include "texts/text_arena.h"
 
 namespace kx {
@@ -19,10 +20,11 @@ class PropertyTable {
  public:
   std::uint64_t Hash(std::string_view key) const noexcept { return keys_.Hash(key); }
 
-  /// The text of `key`, which holds no NUL, or null; valid as long as the table. Allocates nothing.
+  /// The text of `key`, which holds no NUL, or null; valid as long as the table. A measured text.
+  /// Allocates nothing.
   const char* Find(std::string_view key, std::uint64_t hash) const noexcept {
     const char* const stored = keys_.Find(key, hash);
-    return stored == nullptr ? nullptr : stored + key.size() + 1;
+    return stored == nullptr ? nullptr : TextBehind(stored, key.size());
   }
 
   /// Adds a key with its text, or replaces the text of the key, whose first spelling stays. Neither
@@ -37,10 +39,14 @@ class PropertyTable {
   /// Calls `action(key, text)` for each entry, in no particular order.
   template <class Action>
   void ForEach(const Action& action) const {
-    keys_.ForEach([&action](const char* key) { action(key, key + std::strlen(key) + 1); });
+    keys_.ForEach([&action](const char* key) { action(key, TextBehind(key, std::strlen(key))); });
   }
 
  private:
+  static const char* TextBehind(const char* key, std::size_t keySize) noexcept {
+    return key + keySize + 1 + sizeof(TextMeasure);
+  }
+
   TextArena texts_;
   KeyTable keys_;
 };

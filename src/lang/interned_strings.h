@@ -25,7 +25,7 @@ class InternTable {
     return text == nullptr ? nullptr : InternString(std::string_view(text));
   }
 
-  /// The same for a text without a NUL in it.
+  /// The same for a text without a NUL in it. The copy is a measured text.
   const char* InternString(std::string_view text);
 
   std::size_t Size() const noexcept { return strings_.Size(); }

@@ -8,6 +8,7 @@
 #include "log/translation_log.h"
 #include "platform/given_text.h"
 #include "platform/utf8_text.h"
+#include "texts/measured_text.h"
 
 namespace {
 
@@ -88,7 +89,12 @@ bool CRealKxXlate::GetDirectory(char* dst, KxSize size, const char* name) {
 const char* CRealKxXlate::GetText(const char* key) { return FindKey(contents_.texts, kTexts, key); }
 
 bool CRealKxXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
-  return kx::AnswerLookup(dst, size, GetText(key), dflt);
+  const char* const found = GetText(key);
+  if (found == nullptr || dst == nullptr || size == 0) {
+    return kx::AnswerLookup(dst, size, found, dflt);
+  }
+  kx::CopyMeasuredText(dst, size, found);
+  return true;
 }
 
 const char* CRealKxXlate::GetLabel(const char* key) {

@@ -11,7 +11,7 @@ namespace {
 // each text, in small catalogues and in large ones.
 constexpr std::size_t kSmallestChunk = 1024;
 constexpr std::size_t kLargestChunk = std::size_t{1} << 20;
-constexpr std::size_t kShare = 16;
+constexpr std::size_t kShare = 32;
 
 }  // namespace
 
