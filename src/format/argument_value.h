@@ -10,7 +10,7 @@ namespace kx {
 class ArgumentValue {
  public:
   /// An integer, extended by its sign, or a pointer. Implicit: a word is the plain case.
-  ArgumentValue(std::uint64_t word) noexcept : bytes_{.word = word}, type_(Type::kWord) {}
+  constexpr ArgumentValue(std::uint64_t word) noexcept : bytes_{.word = word}, type_(Type::kWord) {}
   explicit ArgumentValue(double fraction) noexcept
       : bytes_{.word = std::bit_cast<std::uint64_t>(fraction)}, type_(Type::kDouble) {}
   explicit ArgumentValue(long double fraction) noexcept

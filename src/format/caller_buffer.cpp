@@ -27,8 +27,9 @@ void CopyInsertion(char* dst, KxSize size, std::string_view text) {
 
 void CopyVariableInsertion(char* dst, KxSize size, std::string_view text) {
   if (IsAbsent(dst, size)) return;
-  std::memset(dst, 0, size);
-  CopyTerminated(dst, text.substr(0, size - 1));
+  text = text.substr(0, size - 1);
+  CopyTerminated(dst, text);
+  std::memset(dst + text.size(), 0, size - text.size());
 }
 
 bool AnswerLookup(char* dst, KxSize size, const char* found, const char* fallback) {

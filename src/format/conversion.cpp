@@ -5,150 +5,129 @@
 namespace kx {
 namespace {
 
-bool IsOneOf(char c, std::string_view set) { return set.find(c) != std::string_view::npos; }
+constexpr Letters kLengths("hlIjztLw");
+constexpr Letters kTexts("sc");
+constexpr Letters kConversions("diouxXcspfFeEgGaA");
+constexpr Letters kWithOtherForm("oxXfFeEgGaA");
 
 /// Takes the parts of a group from its text, one by one.
 class Reader {
  public:
-  explicit Reader(std::string_view text) : rest_(text) {}
+  explicit Reader(std::string_view text) : next_(text.data()), end_(next_ + text.size()) {}
 
-  std::string_view Rest() const { return rest_; }
+  const char* Place() const { return next_; }
+
+  /// The next byte, which stays; '\0' at the end.
+  char Peek() const { return next_ == end_ ? '\0' : *next_; }
+  void Skip(std::size_t bytes) { next_ += bytes; }
 
   bool Take(std::string_view word) {
-    if (!rest_.starts_with(word)) return false;
-    rest_.remove_prefix(word.size());
+    if (!std::string_view(next_, static_cast<std::size_t>(end_ - next_)).starts_with(word)) {
+      return false;
+    }
+    next_ += word.size();
     return true;
   }
 
-  /// The next byte if it is one of `set`, else '\0'.
-  char TakeOneOf(std::string_view set) {
-    return !rest_.empty() && IsOneOf(rest_.front(), set) ? TakeByte() : '\0';
-  }
-
   /// The next byte; '\0' at the end.
-  char TakeByte() {
-    if (rest_.empty()) return '\0';
-    const char byte = rest_.front();
-    rest_.remove_prefix(1);
-    return byte;
-  }
+  char TakeByte() { return next_ == end_ ? '\0' : *next_++; }
 
   /// `none` when there are no digits.
   int TakeNumber(int none) {
-    constexpr std::string_view kDigits = "0123456789";
-    if (rest_.empty() || !IsOneOf(rest_.front(), kDigits)) return none;
+    if (!IsDigit(Peek())) return none;
     int number = 0;
-    while (const char digit = TakeOneOf(kDigits)) {
-      number = std::min(number * 10 + (digit - '0'), static_cast<int>(kMaxPieceBytes));
+    for (; IsDigit(Peek()); ++next_) {
+      number = std::min(number * 10 + (*next_ - '0'), static_cast<int>(kMaxPieceBytes));
     }
     return number;
   }
 
  private:
-  std::string_view rest_;
+  static bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+  const char* next_;
+  const char* const end_;
 };
 
 void TakeFlags(Reader& reader, Conversion& conversion) {
-  while (const char flag = reader.TakeOneOf("-+ #0")) {
-    switch (flag) {
+  for (;; reader.Skip(1)) {
+    switch (reader.Peek()) {
       case '-': conversion.isLeft = true; break;
       case '+': conversion.hasPlus = true; break;
       case ' ': conversion.hasBlank = true; break;
       case '#': conversion.isOtherForm = true; break;
-      default: conversion.hasZeros = true; break;
+      case '0': conversion.hasZeros = true; break;
+      default: return;
     }
   }
 }
 
-Length TakeLength(Reader& reader) {
-  // A word stands before those that it begins with.
-  static constexpr struct {
-    std::string_view word;
-    Length length;
-  } kLengths[] = {
-      {"hh", Length::kChar},    {"h", Length::kShort},    {"ll", Length::kBits64},
-      {"l", Length::kLong},     {"j", Length::kBits64},   {"z", Length::kBits64},
-      {"t", Length::kBits64},   {"L", Length::kExtended}, {"I64", Length::kBits64},
-      {"I32", Length::kBits32}, {"I", Length::kBits64},   {"w", Length::kWide},
-  };
-  for (const auto& [word, length] : kLengths) {
-    if (reader.Take(word)) return length;
+/// Takes flags, width and precision.
+void TakeField(Reader& reader, ConversionGroup& group) {
+  TakeFlags(reader, group.conversion);
+  if (reader.Take("*")) {
+    group.hasStar = true;
+  } else {
+    group.conversion.width = reader.TakeNumber(0);
   }
-  return Length::kNone;
+  if (!reader.Take(".")) return;
+  if (reader.Take("*")) {
+    group.hasStar = true;
+  } else {
+    group.conversion.precision = reader.TakeNumber(0);
+  }
+}
+
+Length TakeLength(Reader& reader) {
+  if (!kLengths.Has(reader.Peek())) return Length::kNone;
+  switch (reader.Peek()) {
+    case 'h': reader.Skip(1); return reader.Take("h") ? Length::kChar : Length::kShort;
+    case 'l': reader.Skip(1); return reader.Take("l") ? Length::kBits64 : Length::kLong;
+    case 'I':
+      reader.Skip(1);
+      if (reader.Take("32")) return Length::kBits32;
+      reader.Take("64");
+      return Length::kBits64;
+    case 'j':
+    case 'z':
+    case 't': reader.Skip(1); return Length::kBits64;
+    case 'L': reader.Skip(1); return Length::kExtended;
+    default: reader.Skip(1); return Length::kWide;
+  }
 }
 
 ConversionGroup::Meaning MeaningOf(char letter, Length length) {
   using Meaning = ConversionGroup::Meaning;
+  const Letters allowed = length == Length::kWide ? kTexts : kConversions;
+  if (allowed.Has(letter)) return Meaning::kConversion;
   if (letter == '%') return Meaning::kPercentSign;
-  if (letter == 'n') return Meaning::kCount;
-  if (length == Length::kWide) return IsOneOf(letter, "sc") ? Meaning::kConversion : Meaning::kText;
-  return IsOneOf(letter, "diouxXcspfFeEgGaA") ? Meaning::kConversion : Meaning::kText;
+  return letter == 'n' ? Meaning::kCount : Meaning::kText;
 }
 
 void DropIdleFlags(Conversion& conversion) {
   // A pointer is printed as the system does it, flags included.
   if (conversion.letter == 'p') return;
   const bool isNumber = conversion.IsInteger() || conversion.IsFloating();
-  const bool hasOtherForm = conversion.IsFloating() || IsOneOf(conversion.letter, "oxX");
   conversion.hasPlus = conversion.hasPlus && conversion.IsSigned();
   conversion.hasBlank = conversion.hasBlank && conversion.IsSigned() && !conversion.hasPlus;
-  conversion.isOtherForm = conversion.isOtherForm && hasOtherForm;
+  conversion.isOtherForm = conversion.isOtherForm && kWithOtherForm.Has(conversion.letter);
   conversion.hasZeros = conversion.hasZeros && isNumber && !conversion.isLeft;
 }
 
 }  // namespace
 
-bool Conversion::IsSigned() const { return IsFloating() || letter == 'd' || letter == 'i'; }
-bool Conversion::IsInteger() const { return letter != '\0' && IsOneOf(letter, "diouxX"); }
-bool Conversion::IsFloating() const { return letter != '\0' && IsOneOf(letter, "fFeEgGaA"); }
-
-bool Conversion::IsWide() const { return length == Length::kLong || length == Length::kWide; }
-
-ArgumentKind Conversion::Kind() const {
-  if (IsFloating()) {
-    return length == Length::kExtended ? ArgumentKind::kLongDouble : ArgumentKind::kDouble;
-  }
-  if (letter == 's' || letter == 'p') return ArgumentKind::kWord;
-  if (letter == 'c') return ArgumentKind::kInt;
-  return Bits() > 32 ? ArgumentKind::kWord : ArgumentKind::kInt;
-}
-
-int Conversion::Bits() const {
-  switch (length) {
-    case Length::kChar: return 8;
-    case Length::kShort: return 16;
-    case Length::kNone:
-    case Length::kWide:
-    case Length::kBits32: return 32;
-    case Length::kLong: return 8 * static_cast<int>(sizeof(long));
-    case Length::kBits64:
-    case Length::kExtended: break;
-  }
-  return 64;
-}
-
 ConversionGroup ReadGroup(std::string_view text) {
   ConversionGroup group;
   Conversion& conversion = group.conversion;
   Reader reader(text.substr(1));
-  TakeFlags(reader, conversion);
-  if (reader.Take("*")) {
-    group.hasStar = true;
-  } else {
-    conversion.width = reader.TakeNumber(0);
-  }
-  if (reader.Take(".")) {
-    if (reader.Take("*")) {
-      group.hasStar = true;
-    } else {
-      conversion.precision = reader.TakeNumber(0);
-    }
-  }
+  // All that may stand before a length sorts before the letters, and most conversions have none.
+  const bool hasField = reader.Peek() <= '9';
+  if (hasField) TakeField(reader, group);
   conversion.length = TakeLength(reader);
   conversion.letter = reader.TakeByte();
   group.meaning = MeaningOf(conversion.letter, conversion.length);
-  group.text = text.substr(0, text.size() - reader.Rest().size());
-  DropIdleFlags(conversion);
+  group.text = {text.data(), static_cast<std::size_t>(reader.Place() - text.data())};
+  if (hasField) DropIdleFlags(conversion);
   return group;
 }
 

@@ -5,7 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "format/argument_walker.h"
+#include "format/argument_kind.h"
+#include "format/letters.h"
 
 namespace kx {
 
@@ -42,16 +43,33 @@ struct Conversion {
   Length length = Length::kNone;
   char letter = '\0';
 
-  bool IsSigned() const;
-  bool IsInteger() const;
-  bool IsFloating() const;
-  bool IsWide() const;
+  bool IsSigned() const { return Letters("difFeEgGaA").Has(letter); }
+  bool IsInteger() const { return Letters("diouxX").Has(letter); }
+  bool IsFloating() const { return Letters("fFeEgGaA").Has(letter); }
+  bool IsWide() const { return length == Length::kLong || length == Length::kWide; }
 
   /// How the conversion reads its argument.
-  ArgumentKind Kind() const;
+  ArgumentKind Kind() const {
+    if (IsFloating()) {
+      return length == Length::kExtended ? ArgumentKind::kLongDouble : ArgumentKind::kDouble;
+    }
+    return ArgumentKind::kWord;
+  }
 
   /// How many bits of its argument an integer conversion looks at.
-  int Bits() const;
+  int Bits() const {
+    switch (length) {
+      case Length::kChar: return 8;
+      case Length::kShort: return 16;
+      case Length::kNone:
+      case Length::kWide:
+      case Length::kBits32: return 32;
+      case Length::kLong: return 8 * static_cast<int>(sizeof(long));
+      case Length::kBits64:
+      case Length::kExtended: break;
+    }
+    return 64;
+  }
 };
 
 /// What begins with a "%" within a piece.

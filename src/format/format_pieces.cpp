@@ -1,35 +1,35 @@
 #include "format/format_pieces.h"
 
+#include "format/letters.h"
+
 namespace kx {
 namespace {
 
-constexpr std::size_t kTenthArgument = 9;
+constexpr Letters kLast("cdiopuxfs");
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+/// "0" is the tenth.
+std::size_t IndexOf(char digit) { return digit == '0' ? 9 : static_cast<std::size_t>(digit - '1'); }
+
 }  // namespace
 
-std::vector<FormatPiece> CutIntoPieces(std::string_view text) {
-  std::vector<FormatPiece> pieces;
-  std::size_t sequential = 0;
-  while (!text.empty()) {
-    const std::string_view literal = text.substr(0, text.find('%'));
-    if (!literal.empty()) pieces.push_back({true, literal, 0});
-    text.remove_prefix(literal.size());
-    const std::size_t letter = text.find_first_of("cdiopuxfs");
-    if (letter == std::string_view::npos) break;
-    FormatPiece conversion{false, text.substr(0, letter + 1), 0};
-    text.remove_prefix(conversion.text.size());
-    if (text.size() >= 2 && text[0] == ':' && IsDigit(text[1])) {
-      conversion.argIndex =
-          text[1] == '0' ? kTenthArgument : static_cast<std::size_t>(text[1] - '1');
-      text.remove_prefix(2);
-    } else {
-      conversion.argIndex = sequential++;
-    }
-    pieces.push_back(conversion);
+bool FormatPieces::TakeConversion(FormatPiece& piece) {
+  const char* const end = text_.End();
+  if (next_ == end) return false;
+  const char* next = next_ + 1;
+  while (next != end && !kLast.Has(*next)) ++next;
+  if (next == end) return false;
+  ++next;
+  piece.text = {next_, static_cast<std::size_t>(next - next_)};
+  if (next[0] == ':' && IsDigit(next[1])) {
+    piece.argIndex = IndexOf(next[1]);
+    next_ = next + 2;
+  } else {
+    piece.argIndex = sequential_++;
+    next_ = next;
   }
-  return pieces;
+  return true;
 }
 
 }  // namespace kx

@@ -16,9 +16,9 @@ constexpr std::size_t kMaxLooseArguments = 13;
 void InsertIntoBuffer(char* buffer, KxSize size, const char* format, std::size_t count,
                       const char* const* arguments) {
   if (buffer == nullptr || size == 0) return;
-  std::string result;
+  kx::ResultText result;
   kx::InsertArguments(result, format, count, arguments);
-  kx::CopyInsertion(buffer, size, result);
+  kx::CopyInsertion(buffer, size, result.View());
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 #include "format/positional_insertion.h"
 
 #include <algorithm>
-#include <cstring>
+
+#include "format/marked_text.h"
 
 namespace kx {
 namespace {
@@ -13,18 +14,16 @@ std::size_t DigitValue(char c) { return static_cast<std::size_t>(c - '0'); }
 /// One run of the engine over one text.
 class Insertion {
  public:
-  Insertion(std::string& result, std::size_t count, const char* const* arguments)
+  Insertion(ResultText& result, std::size_t count, const char* const* arguments)
       : result_(result), count_(arguments == nullptr ? 0 : count), arguments_(arguments) {}
 
-  void Run(const char* text) {
-    const char* place = std::strpbrk(text, "%{");
-    while (place != nullptr) {
+  void Run(const MarkedText& text) {
+    const char* place = text.CopyUpTo(result_, text.Begin(), '%', '{');
+    while (place != text.End()) {
       marker_ = *place;
-      result_.append(text, place);
-      text = TakeMarker(place + 1);
-      place = std::strchr(text, marker_);
+      const char* const next = TakeMarker(place + 1);
+      place = text.CopyUpTo(result_, next, marker_, marker_);
     }
-    result_ += text;
     AppendLeftovers();
   }
 
@@ -36,11 +35,11 @@ class Insertion {
 
   const char* TakeMarker(const char* next) {
     if (*next == '\0') {
-      result_ += marker_;
+      result_.Append(marker_);
       return next;
     }
     if (*next == marker_) {
-      result_ += marker_;
+      result_.Append(marker_);
       return next + 1;
     }
     if (IsDigit(*next)) return TakeNumber(next);
@@ -65,17 +64,17 @@ class Insertion {
   // The text comes back as a number, not as written: "{05x" loses its 0, and catalogues count on
   // it.
   const char* TakeUnclosedBrace(std::size_t index, char last, const char* next) {
-    result_ += '{';
-    if (index >= 10) result_ += static_cast<char>('0' + index / 10);
-    result_ += last;
+    result_.Append('{');
+    if (index >= 10) result_.Append(static_cast<char>('0' + index / 10));
+    result_.Append(last);
     if (*next == '\0') return next;
-    result_ += *next;
+    result_.Append(*next);
     return next + 1;
   }
 
   const char* TakeOrdinaryBrace(const char* next) {
-    result_ += '{';
-    result_ += *next;
+    result_.Append('{');
+    result_.Append(*next);
     return next + 1;
   }
 
@@ -91,25 +90,25 @@ class Insertion {
   void Insert(std::size_t index, char last) {
     highMark_ = std::max(highMark_, index + 1);
     if (index < count_ && arguments_[index] != nullptr) {
-      result_ += arguments_[index];
+      result_.Append(arguments_[index]);
       return;
     }
-    result_ += marker_;
-    result_ += last;
-    if (InBraces()) result_ += '}';
+    result_.Append(marker_);
+    result_.Append(last);
+    if (InBraces()) result_.Append('}');
   }
 
   void AppendLeftovers() {
     if (highMark_ >= count_) return;
-    result_ += result_.empty() ? "(" : " (";
+    result_.Append(result_.Size() == 0 ? "(" : " (");
     for (std::size_t index = highMark_; index < count_; ++index) {
-      if (index != highMark_) result_ += ", ";
-      if (arguments_[index] != nullptr) result_ += arguments_[index];
+      if (index != highMark_) result_.Append(", ");
+      if (arguments_[index] != nullptr) result_.Append(arguments_[index]);
     }
-    result_ += ')';
+    result_.Append(')');
   }
 
-  std::string& result_;
+  ResultText& result_;
   const std::size_t count_;
   const char* const* const arguments_;
   char marker_ = '\0';
@@ -118,10 +117,16 @@ class Insertion {
 
 }  // namespace
 
+void InsertArguments(ResultText& result, const char* text, std::size_t count,
+                     const char* const* arguments) {
+  Insertion(result, count, arguments).Run(MarkedText(text == nullptr ? "" : text));
+}
+
 void InsertArguments(std::string& result, const char* text, std::size_t count,
                      const char* const* arguments) {
-  result.clear();
-  Insertion(result, count, arguments).Run(text == nullptr ? "" : text);
+  ResultText whole;
+  InsertArguments(whole, text, count, arguments);
+  result = whole.View();
 }
 
 }  // namespace kx

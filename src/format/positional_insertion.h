@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "format/result_text.h"
+
 namespace kx {
 
 /// Replaces the markers of a text (%N or {N}, N counted from 0) by arguments.
@@ -12,12 +14,16 @@ namespace kx {
 /// malformed marker, and one whose argument is absent, stay in the text, and arguments behind the
 /// highest one that a marker named are appended in brackets. docs/markers.md has all the rules.
 ///
-/// @param result     replaced by the text with its values
+/// @param result     empty; gets the text with its values
 /// @param text       null is the empty text
 /// @param arguments  `count` pointers to terminated texts, of which any may be null (absent); a
 ///                   null array is an empty one
 ///
-/// `text` and the arguments must not lie in `result`. Reentrant. Throws std::bad_alloc only.
+/// Reentrant. Throws std::bad_alloc only.
+void InsertArguments(ResultText& result, const char* text, std::size_t count,
+                     const char* const* arguments);
+
+/// The same into a string, which is replaced. `text` and the arguments may lie in it.
 void InsertArguments(std::string& result, const char* text, std::size_t count,
                      const char* const* arguments);
 

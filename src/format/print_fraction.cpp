@@ -5,11 +5,11 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <limits>
 #include <string_view>
 
 #include "format/call_printf.h"
+#include "format/field.h"
 
 // The systems' printf agree on "%f" and "%e" of numbers. What they do not agree on is decided here.
 
@@ -20,21 +20,17 @@ constexpr std::string_view LengthOf(double /*value*/) { return ""; }
 constexpr std::string_view LengthOf(long double /*value*/) { return "L"; }
 
 /// Not every printf tells the sign of what is no number.
-void AppendNonNumber(std::string& result, const Conversion& conversion, bool isNegative,
+void AppendNonNumber(ResultText& result, const Conversion& conversion, bool isNegative,
                      bool isInfinite) {
   const bool isCapital = conversion.letter < 'a';
-  char text[] = " inf";
-  std::string_view name = isInfinite ? "inf" : "nan";
-  if (isCapital) name = isInfinite ? "INF" : "NAN";
-  name.copy(text + 1, name.size());
-  if (conversion.hasPlus) text[0] = '+';
-  if (isNegative) text[0] = '-';
-  const bool hasSign = isNegative || conversion.hasPlus || conversion.hasBlank;
-  Conversion field;
-  field.letter = 's';
-  field.isLeft = conversion.isLeft;
-  field.width = conversion.width;
-  AppendPrinted(result, field, "", hasSign ? text : text + 1);
+  const std::size_t start = result.Size();
+  AppendSign(result, conversion, isNegative);
+  if (isCapital) {
+    result.Append(isInfinite ? "INF" : "NAN");
+  } else {
+    result.Append(isInfinite ? "inf" : "nan");
+  }
+  Pad(result, conversion, start);
 }
 
 /// How a value looks in "%e" with a number of digits.
@@ -50,15 +46,17 @@ Digits DigitsOf(Value value, int digits) {
   Conversion exponential;
   exponential.precision = std::min(digits - 1, kMostDigits);
   exponential.letter = 'e';
-  Printed printed;
-  Print(printed, exponential, LengthOf(value), value);
-  const char* const mark = std::strrchr(printed.data(), 'e');
-  Digits found{static_cast<int>(std::strtol(mark + 1, nullptr, 10)), 1};
+  ResultText printed;
+  AppendPrinted(printed, exponential, LengthOf(value), value);
+  printed.Append('\0');
+  const std::string_view text = printed.View();
+  const std::size_t mark = text.rfind('e');
+  Digits found{static_cast<int>(std::strtol(&text[mark + 1], nullptr, 10)), 1};
   int seen = 0;
-  for (const char* c = printed.data(); c != mark; ++c) {
-    if (*c < '0' || *c > '9') continue;
+  for (const char c : text.substr(0, mark)) {
+    if (c < '0' || c > '9') continue;
     ++seen;
-    if (*c != '0') found.significant = seen;
+    if (c != '0') found.significant = seen;
   }
   return found;
 }
@@ -106,7 +104,7 @@ double LeaveHexadecimalTie(double value, int digits) {
 long double LeaveHexadecimalTie(long double value, int /*digits*/) { return value; }
 
 template <class Value>
-void AppendAnyFraction(std::string& result, const Conversion& conversion, Value value) {
+void Append(ResultText& result, const Conversion& conversion, Value value) {
   const char letter = conversion.letter;
   if (!std::isfinite(value)) {
     AppendNonNumber(result, conversion, std::signbit(value), std::isinf(value));
@@ -126,12 +124,12 @@ void AppendAnyFraction(std::string& result, const Conversion& conversion, Value 
 
 }  // namespace
 
-void AppendFraction(std::string& result, const Conversion& conversion, double value) {
-  AppendAnyFraction(result, conversion, value);
+void AppendAnyFraction(ResultText& result, const Conversion& conversion, double value) {
+  Append(result, conversion, value);
 }
 
-void AppendFraction(std::string& result, const Conversion& conversion, long double value) {
-  AppendAnyFraction(result, conversion, value);
+void AppendFraction(ResultText& result, const Conversion& conversion, long double value) {
+  Append(result, conversion, value);
 }
 
 }  // namespace kx

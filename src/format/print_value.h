@@ -1,10 +1,9 @@
 #ifndef KX_FORMAT_PRINT_VALUE_H
 #define KX_FORMAT_PRINT_VALUE_H
 
-#include <string>
-
 #include "format/argument_value.h"
 #include "format/conversion.h"
+#include "format/result_text.h"
 
 namespace kx {
 
@@ -15,7 +14,7 @@ namespace kx {
 /// @param value  for %s a pointer to a terminated text, of which null is the empty one
 ///
 /// Throws std::bad_alloc only.
-void AppendValue(std::string& result, const Conversion& conversion, const ArgumentValue& value);
+void AppendValue(ResultText& result, const Conversion& conversion, const ArgumentValue& value);
 
 }  // namespace kx
 

@@ -1,36 +1,32 @@
 #include "format/printf_piece.h"
 
-#include <algorithm>
-
-#include "format/print_value.h"
-
 namespace kx {
 namespace {
 
 using Meaning = ConversionGroup::Meaning;
 
-void AppendBefore(std::string& result, const ConversionGroup& group) {
+void AppendBefore(ResultText& result, const ConversionGroup& group) {
   if (group.meaning == Meaning::kPercentSign) {
-    result += '%';
+    result.Append('%');
   } else if (group.meaning != Meaning::kCount) {
-    result += group.text;
+    result.Append(group.text);
   }
 }
 
-void AppendAfter(std::string& result, const ConversionGroup& group) {
+void AppendAfter(ResultText& result, const ConversionGroup& group) {
   if (group.meaning == Meaning::kPercentSign && !group.hasStar) {
-    result += '%';
+    result.Append('%');
   } else {
-    result += group.text;
+    result.Append(group.text);
   }
 }
 
 /// Appends text, and by `appendGroup` each group in it.
-void AppendAround(std::string& result, std::string_view text,
-                  void (*appendGroup)(std::string& result, const ConversionGroup& group)) {
+void AppendAround(ResultText& result, std::string_view text,
+                  void (*appendGroup)(ResultText& result, const ConversionGroup& group)) {
   while (!text.empty()) {
     const std::string_view literal = text.substr(0, text.find('%'));
-    result += literal;
+    result.Append(literal);
     text.remove_prefix(literal.size());
     if (text.empty()) break;
     const ConversionGroup group = ReadGroup(text);
@@ -41,31 +37,24 @@ void AppendAround(std::string& result, std::string_view text,
 
 }  // namespace
 
-PrintfPiece::PrintfPiece(std::string_view piece) : before_(piece) {
-  std::size_t place = piece.find('%');
-  while (place != std::string_view::npos) {
-    const ConversionGroup group = ReadGroup(piece.substr(place));
-    const std::size_t next = place + group.text.size();
-    if (group.meaning == Meaning::kConversion) {
-      before_ = piece.substr(0, place);
-      conversion_ = group.conversion;
-      after_ = piece.substr(next);
-      break;
-    }
-    place = piece.find('%', next);
+void PrintfPiece::FindConversion() {
+  do {
+    const auto behind = static_cast<std::size_t>(group_.text.data() - piece_.data());
+    const std::size_t next = piece_.find('%', behind + group_.text.size());
+    if (next == std::string_view::npos) return;
+    group_ = ReadGroup(piece_.substr(next));
+  } while (!HasConversion());
+}
+
+void PrintfPiece::AppendParts(ResultText& result, const ArgumentValue& value) const {
+  if (!HasConversion()) {
+    AppendAround(result, piece_, AppendBefore);
+    return;
   }
-}
-
-ArgumentKind PrintfPiece::Kind() const {
-  return conversion_.letter == '\0' ? ArgumentKind::kUnread : conversion_.Kind();
-}
-
-void PrintfPiece::AppendTo(std::string& result, const ArgumentValue& value) const {
-  const std::size_t start = result.size();
-  AppendAround(result, before_, AppendBefore);
-  if (conversion_.letter != '\0') AppendValue(result, conversion_, value);
-  AppendAround(result, after_, AppendAfter);
-  result.resize(std::min(result.size(), start + kMaxPieceBytes));
+  const auto before = static_cast<std::size_t>(group_.text.data() - piece_.data());
+  AppendAround(result, piece_.substr(0, before), AppendBefore);
+  AppendValue(result, group_.conversion, value);
+  AppendAround(result, piece_.substr(before + group_.text.size()), AppendAfter);
 }
 
 }  // namespace kx

@@ -1,71 +1,73 @@
 #include <algorithm>
 #include <cstdarg>
-#include <string>
-#include <vector>
+#include <cstddef>
 
 #include "CKxXlate.h"
-#include "format/argument_value.h"
 #include "format/argument_walker.h"
 #include "format/caller_buffer.h"
 #include "format/format_pieces.h"
 #include "format/printf_piece.h"
+#include "format/result_text.h"
+#include "format/short_list.h"
 
-// CKxXlate::InsertVariableVA. It shares nothing with InsertVariable but how a fraction is printed:
-// the two have different rules.
+// CKxXlate::InsertVariableVA. It shares nothing with InsertVariable but how a value is printed: the
+// two have different rules.
 
 namespace {
 
 using kx::ArgumentKind;
 
-bool IsFloating(ArgumentKind kind) {
-  return kind == ArgumentKind::kDouble || kind == ArgumentKind::kLongDouble;
-}
-
-/// How to read an argument that two conversions read differently. As the first one's floating value
-/// when it says so, else as a word, which holds the bytes for both.
-ArgumentKind Merge(ArgumentKind first, ArgumentKind other) {
-  if (first == ArgumentKind::kUnread || first == other) return other;
-  if (other == ArgumentKind::kUnread || IsFloating(first)) return first;
-  return ArgumentKind::kWord;
-}
-
-/// The kinds of all arguments up to the last one that a conversion reads.
-std::vector<ArgumentKind> KindsOfArguments(const std::vector<kx::FormatPiece>& pieces) {
-  std::vector<ArgumentKind> kinds;
-  for (const kx::FormatPiece& piece : pieces) {
-    if (piece.isLiteral) continue;
-    const ArgumentKind kind = kx::PrintfPiece(piece.text).Kind();
-    if (kind == ArgumentKind::kUnread) continue;
-    kinds.resize(std::max(kinds.size(), piece.argIndex + 1), ArgumentKind::kUnread);
-    kinds[piece.argIndex] = Merge(kinds[piece.argIndex], kind);
-  }
-  return kinds;
-}
-
-/// Joins no more pieces than the first `size` bytes need: the rest is cut anyway.
-std::string Join(const std::vector<kx::FormatPiece>& pieces,
-                 const std::vector<kx::ArgumentValue>& values, KxSize size) {
-  std::string result;
-  for (const kx::FormatPiece& piece : pieces) {
-    if (result.size() >= size) break;
-    if (piece.isLiteral) {
-      result += piece.text;
-    } else {
-      // A piece without a conversion may have a number past the last argument.
-      const kx::ArgumentValue none = 0;
-      const bool hasValue = piece.argIndex < values.size();
-      kx::PrintfPiece(piece.text).AppendTo(result, hasValue ? values[piece.argIndex] : none);
+/// Takes all arguments up to the last that the text reads, each as the first conversion reads it:
+/// `piece`, which is of `kind`, or one of those behind it.
+void TakeAll(kx::ArgumentWalker& arguments, kx::FormatPiece piece, ArgumentKind kind,
+             kx::FormatPieces behind) {
+  kx::ShortList<ArgumentKind, 16> kinds;
+  for (;;) {
+    if (kind != ArgumentKind::kUnread && piece.argIndex >= arguments.Taken()) {
+      const std::size_t index = piece.argIndex - arguments.Taken();
+      while (kinds.Size() <= index) kinds.Add(ArgumentKind::kUnread);
+      if (kinds[index] == ArgumentKind::kUnread) kinds[index] = kind;
     }
+    behind.SkipLiteral();
+    if (!behind.TakeConversion(piece)) break;
+    kind = kx::PrintfPiece(piece.text).Kind();
   }
-  return result;
+  for (const ArgumentKind each : kinds) arguments.Take(each);
+}
+
+/// An argument is read once, as floating value if the first conversion that reads it says so, else
+/// as a word, which holds the bytes for all. Most texts name their arguments in order, and each is
+/// taken when its conversion comes; what stands behind is looked at only when one is passed over.
+///
+/// Inserts no more pieces than the first `size` bytes need: the rest is cut anyway.
+void InsertPieces(kx::ResultText& result, KxSize size, const char* text,
+                  kx::ArgumentWalker& arguments) {
+  kx::FormatPieces pieces(text);
+  for (;;) {
+    pieces.CopyLiteral(result);
+    kx::FormatPiece piece;
+    if (result.Size() >= size || !pieces.TakeConversion(piece)) return;
+    const kx::PrintfPiece printed(piece.text);
+    const ArgumentKind kind = printed.Kind();
+    if (kind == ArgumentKind::kUnread) {
+      printed.AppendTo(result, std::uint64_t{0});
+      continue;
+    }
+    if (piece.argIndex == arguments.Taken()) {
+      arguments.Take(kind);
+    } else if (piece.argIndex > arguments.Taken()) {
+      TakeAll(arguments, piece, kind, pieces);
+    }
+    printed.AppendTo(result, arguments[piece.argIndex]);
+  }
 }
 
 }  // namespace
 
 void CKxXlate::InsertVariableVA(char* buffer, KxSize size, const char* format,
                                 std::va_list arguments) {
-  const std::vector<kx::FormatPiece> pieces = kx::CutIntoPieces(format == nullptr ? "" : format);
-  const std::vector<kx::ArgumentValue> values =
-      kx::TakeArguments(KindsOfArguments(pieces), arguments);
-  kx::CopyVariableInsertion(buffer, size, Join(pieces, values, size));
+  kx::ArgumentWalker walker(arguments);
+  kx::ResultText result;
+  InsertPieces(result, size, format == nullptr ? "" : format, walker);
+  kx::CopyVariableInsertion(buffer, size, result.View());
 }

@@ -1,62 +1,94 @@
-#include <algorithm>
-#include <array>
+#include <bit>
 #include <cstdarg>
 #include <cstddef>
-#include <cstdio>
-#include <cstring>
-#include <string>
+#include <cstdint>
 
 #include "CKxXlate.h"
 #include "format/caller_buffer.h"
 #include "format/conversion.h"
+#include "format/letters.h"
+#include "format/marked_text.h"
 #include "format/print_fraction.h"
+#include "format/print_integer.h"
+#include "format/result_text.h"
 
-// CKxXlate::InsertVariable. It shares nothing with InsertVariableVA but how a fraction is printed:
-// the two have different rules.
+// CKxXlate::InsertVariable. It shares nothing with InsertVariableVA but how a value is printed: the
+// two have different rules.
 
 namespace {
 
 constexpr std::size_t kSlots = 9;
-constexpr std::size_t kNumberBytes = 256;  // the room for one printed number, its NUL included
+constexpr std::size_t kMostNumberBytes = 255;
+constexpr kx::Letters kConversions("dfiosx");
 
-bool IsConversion(char c) { return c != '\0' && std::strchr("dfiosx", c) != nullptr; }
+/// The bytes of a value and the conversion that took it.
+struct Slot {
+  char letter;
+  std::uint64_t word;
+};
 
-using Slots = std::array<std::string, kSlots>;
+/// The values, in the order of the conversions in the text; the numbers behind them play no part
+/// here. A conversion past the ninth takes no value.
+class Slots {
+ public:
+  Slots(const kx::MarkedText& text, std::va_list& arguments)
+      : text_(text), next_(text.Begin()), arguments_(arguments) {}
 
-/// As "%f" has it on every system.
-std::string FractionText(double value) {
-  kx::Conversion conversion;
-  conversion.letter = 'f';
-  std::string text;
-  kx::AppendFraction(text, conversion, value);
-  text.resize(std::min(text.size(), kNumberBytes - 1));
-  return text;
-}
-
-/// Takes the value of one conversion from the argument list, as text.
-std::string TakeValue(char conversion, std::va_list& arguments) {
-  char number[kNumberBytes];
-  switch (conversion) {
-    case 'o': std::snprintf(number, sizeof number, "%o", va_arg(arguments, unsigned)); break;
-    case 'x': std::snprintf(number, sizeof number, "%x", va_arg(arguments, unsigned)); break;
-    case 'f': return FractionText(va_arg(arguments, double));
-    case 's': {
-      const char* text = va_arg(arguments, const char*);
-      return text == nullptr ? "" : text;
+  /// Null when the text has no such conversion. Values are taken up to this one: most texts are
+  /// numbered as they stand, and then no part of them is searched in vain.
+  const Slot* At(std::size_t index) {
+    if (index >= kSlots) return nullptr;
+    while (taken_ <= index) {
+      if (!TakeNext()) return nullptr;
     }
-    default: std::snprintf(number, sizeof number, "%d", va_arg(arguments, int)); break;
+    return &slots_[index];
   }
-  return number;
+
+ private:
+  bool TakeNext() {
+    for (;;) {
+      const char* const place = text_.Find(next_, '%');
+      if (place == text_.End() || place[1] == '\0') return false;
+      next_ = place + 2;
+      if (!kConversions.Has(place[1])) continue;
+      slots_[taken_++] = {place[1], TakeValue(place[1])};
+      return true;
+    }
+  }
+
+  /// Takes the value of one conversion from the argument list, as its bytes.
+  std::uint64_t TakeValue(char letter) {
+    switch (letter) {
+      case 'f': return std::bit_cast<std::uint64_t>(va_arg(arguments_, double));
+      case 's': return std::bit_cast<std::uint64_t>(va_arg(arguments_, const char*));
+      case 'o':
+      case 'x': return va_arg(arguments_, unsigned);
+      default: return static_cast<std::uint64_t>(va_arg(arguments_, int));
+    }
+  }
+
+  const kx::MarkedText& text_;
+  const char* next_;
+  std::va_list& arguments_;
+  std::size_t taken_ = 0;
+  Slot slots_[kSlots];
+};
+
+void AppendText(kx::ResultText& result, std::uint64_t word) {
+  const auto* const text = std::bit_cast<const char*>(word);
+  if (text != nullptr) result.Append(text);
 }
 
-/// Fills the slots with the values in the order of the conversions in the text; the numbers behind
-/// them play no part here. A conversion past the ninth takes no value.
-void Collect(Slots& slots, const char* text, std::va_list& arguments) {
-  std::size_t filled = 0;
-  while ((text = std::strchr(text, '%')) != nullptr && *++text != '\0') {
-    const char next = *text++;
-    if (IsConversion(next) && filled < kSlots) slots[filled++] = TakeValue(next, arguments);
+void AppendNumber(kx::ResultText& result, const Slot& slot) {
+  const std::size_t start = result.Size();
+  kx::Conversion conversion;
+  conversion.letter = slot.letter;
+  if (slot.letter == 'f') {
+    kx::AppendFraction(result, conversion, std::bit_cast<double>(slot.word));
+  } else {
+    kx::AppendInteger(result, conversion, slot.word);
   }
+  result.Cut(start + kMostNumberBytes);
 }
 
 /// Skips at most `count` bytes, and not past the end of the text.
@@ -69,39 +101,43 @@ const char* Skip(const char* text, std::size_t count) {
 /// conversion, ":" and a number from 1 to 9 give a value. All else vanishes, together with the byte
 /// behind it, and is meant to: conversions are to be written with their number. Held by
 /// InsertVariable.Yields/Lost*.
-const char* TakeMarker(std::string& result, const char* text, const Slots& slots) {
-  if (!IsConversion(text[1])) return Skip(text, 2);
+const char* TakeMarker(kx::ResultText& result, const char* text, Slots& slots) {
+  if (!kConversions.Has(text[1])) return Skip(text, 2);
   if (text[2] != ':') return Skip(text, 3);
-  const char number = text[3];
-  if (number >= '1' && number <= '9') result += slots[static_cast<std::size_t>(number - '1')];
-  return Skip(text, 4);
+  // What is no number from 1 to 9 gives a large index.
+  const Slot* const slot = slots.At(static_cast<std::size_t>(text[3] - '1'));
+  if (slot == nullptr) return Skip(text, 4);
+  if (slot->letter == 's') {
+    AppendText(result, slot->word);
+  } else {
+    AppendNumber(result, *slot);
+  }
+  return text + 4;
 }
 
 /// Builds no more than the first `size` bytes or so: the rest is cut anyway.
-std::string Build(const char* text, const Slots& slots, KxSize size) {
-  std::string result;
-  while (*text != '\0' && result.size() < size) {
-    const std::size_t plain = std::strcspn(text, "%");
-    result.append(text, plain);
-    text += plain;
-    if (*text != '\0') text = TakeMarker(result, text, slots);
+void Build(kx::ResultText& result, const kx::MarkedText& text, Slots& slots, KxSize size) {
+  const char* place = text.CopyUpTo(result, text.Begin(), '%', '%');
+  while (place != text.End() && result.Size() < size) {
+    const char* const next = TakeMarker(result, place, slots);
+    place = text.CopyUpTo(result, next, '%', '%');
   }
-  return result;
 }
 
 }  // namespace
 
 void CKxXlate::InsertVariable(char* buffer, KxSize size, const char* format, ...) {
-  const char* text = format == nullptr ? "" : format;
-  Slots slots;
+  const kx::MarkedText text(format == nullptr ? "" : format);
+  kx::ResultText result;
   std::va_list arguments;
   va_start(arguments, format);
   try {
-    Collect(slots, text, arguments);
+    Slots slots(text, arguments);
+    Build(result, text, slots, size);
   } catch (...) {
     va_end(arguments);
     throw;
   }
   va_end(arguments);
-  kx::CopyVariableInsertion(buffer, size, Build(text, slots, size));
+  kx::CopyVariableInsertion(buffer, size, result.View());
 }

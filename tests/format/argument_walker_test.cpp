@@ -19,17 +19,17 @@ using Kinds = std::vector<ArgumentKind>;
 using Words = std::vector<std::uint64_t>;
 
 constexpr ArgumentKind kUnread = ArgumentKind::kUnread;
-constexpr ArgumentKind kInt = ArgumentKind::kInt;
 constexpr ArgumentKind kWord = ArgumentKind::kWord;
 constexpr ArgumentKind kDouble = ArgumentKind::kDouble;
 
 Words TakeFrom(const Kinds* kinds, ...) {
   std::va_list arguments;
   va_start(arguments, kinds);
-  const std::vector<kx::ArgumentValue> values = kx::TakeArguments(*kinds, arguments);
+  kx::ArgumentWalker walker(arguments);
+  for (const ArgumentKind kind : *kinds) walker.Take(kind);
   va_end(arguments);
   Words words;
-  for (const kx::ArgumentValue& value : values) words.push_back(value.Word());
+  for (std::size_t i = 0; i < walker.Taken(); ++i) words.push_back(walker[i].Word());
   return words;
 }
 
@@ -43,13 +43,18 @@ std::uint64_t BitsOf(double value) { return std::bit_cast<std::uint64_t>(value);
 TEST(ArgumentWalker, TakesNothingWithoutKinds) { EXPECT_EQ(Words{}, Take({}, 1, 2.5, "c")); }
 
 TEST(ArgumentWalker, TakesOnlyAsManyAsThereAreKinds) {
-  EXPECT_EQ((Words{1, 2}), Take({kInt, kInt}, 1, 2, 3));
+  EXPECT_EQ((Words{1, 2}), Take({kWord, kWord}, std::int64_t{1}, std::int64_t{2}, 3));
 }
 
-TEST(ArgumentWalker, ExtendsAnIntByItsSign) {
-  EXPECT_EQ((Words{0, UINT64_MAX, 0xFFFFFFFF80000000, 0x7FFFFFFF}),
-            Take({kInt, kInt, kInt, kInt}, 0, -1, INT_MIN, INT_MAX));
-  EXPECT_EQ((Words{UINT64_MAX, 5}), Take({kInt, kInt}, UINT_MAX, 5));
+TEST(ArgumentWalker, TakesAnIntAsTheLowHalfOfAWord) {
+  const auto intsOf = [](const Words& words) {
+    std::vector<int> ints;
+    for (const std::uint64_t word : words) ints.push_back(static_cast<int>(word));
+    return ints;
+  };
+  EXPECT_EQ((std::vector<int>{0, -1, INT_MIN, INT_MAX}),
+            intsOf(Take({kWord, kWord, kWord, kWord}, 0, -1, INT_MIN, INT_MAX)));
+  EXPECT_EQ((std::vector<int>{-1, 5}), intsOf(Take({kWord, kWord}, UINT_MAX, 5)));
 }
 
 TEST(ArgumentWalker, TakesAllBytesOfAWord) {
@@ -68,8 +73,8 @@ TEST(ArgumentWalker, TakesTheBytesOfADouble) {
 }
 
 TEST(ArgumentWalker, StepsOverWhatIsNotRead) {
-  const Words words = Take({kUnread, kInt, kUnread, kDouble, kUnread, kWord}, 1, 2, "three", 4.5,
-                           std::int64_t{5}, std::int64_t{6});
+  const Words words = Take({kUnread, kWord, kUnread, kDouble, kUnread, kWord}, 1, std::int64_t{2},
+                           "three", 4.5, std::int64_t{5}, std::int64_t{6});
   ASSERT_EQ(6U, words.size());
   EXPECT_EQ(2U, words[1]);
   EXPECT_EQ(BitsOf(4.5), words[3]);
@@ -78,10 +83,10 @@ TEST(ArgumentWalker, StepsOverWhatIsNotRead) {
 
 TEST(ArgumentWalker, StepsOverMoreThanTheRegistersHold) {
   Kinds kinds(20, kUnread);
-  kinds.push_back(kInt);
+  kinds.push_back(kWord);
   kinds.push_back(kDouble);
-  const Words words =
-      Take(kinds, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, -20, 2.1);
+  const Words words = Take(kinds, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18,
+                           19, std::int64_t{-20}, 2.1);
   ASSERT_EQ(22U, words.size());
   EXPECT_EQ(static_cast<std::uint64_t>(-20), words[20]);
   EXPECT_EQ(BitsOf(2.1), words[21]);
@@ -91,8 +96,8 @@ TEST(ArgumentWalker, TakesMoreDoublesThanTheRegistersHold) {
   EXPECT_EQ((Words{BitsOf(0), BitsOf(1), BitsOf(2), BitsOf(3), BitsOf(4), BitsOf(5), BitsOf(6),
                    BitsOf(7), BitsOf(8), BitsOf(9), BitsOf(10), 11}),
             Take({kDouble, kDouble, kDouble, kDouble, kDouble, kDouble, kDouble, kDouble, kDouble,
-                  kDouble, kDouble, kInt},
-                 0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 8.0, 9.0, 10.0, 11));
+                  kDouble, kDouble, kWord},
+                 0.0, 1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 8.0, 9.0, 10.0, std::int64_t{11}));
 }
 
 // Long lists of mixed kinds, made by the compiler: the kind at each place follows from a seed.
@@ -122,7 +127,6 @@ auto ArgumentAt() {
 
 template <class Argument>
 constexpr ArgumentKind KindOf() {
-  if (std::is_same_v<Argument, int>) return kInt;
   return std::is_same_v<Argument, double> ? kDouble : kWord;
 }
 
@@ -135,9 +139,18 @@ std::uint64_t WordOf(Argument argument) {
   }
 }
 
+/// What lies above an int in its place is nobody's.
+template <class Argument>
+std::uint64_t SeenOf(std::uint64_t word) {
+  return std::is_same_v<Argument, int> ? WordOf(static_cast<int>(word)) : word;
+}
+
 template <class... Arguments>
 void TakeMixedList(std::size_t seed, Arguments... arguments) {
-  EXPECT_EQ(Words{WordOf(arguments)...}, Take({KindOf<Arguments>()...}, arguments...))
+  const Words words = Take({KindOf<Arguments>()...}, arguments...);
+  ASSERT_EQ(sizeof...(Arguments), words.size());
+  std::size_t place = 0;
+  EXPECT_EQ(Words{WordOf(arguments)...}, (Words{SeenOf<Arguments>(words[place++])...}))
       << "seed " << seed;
 }
 

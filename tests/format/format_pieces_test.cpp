@@ -34,15 +34,31 @@ void PrintTo(const Piece& piece, std::ostream* os) {
 Piece Literal(const std::string& text) { return {true, text, 0}; }
 Piece Conversion(const std::string& text, std::size_t argIndex) { return {false, text, argIndex}; }
 
+std::vector<Piece> CutTerminated(const char* text) {
+  std::vector<Piece> pieces;
+  kx::FormatPieces rest(text);
+  kx::FormatPieces skipping = rest;
+  for (;;) {
+    kx::ResultText literal;
+    rest.CopyLiteral(literal);
+    skipping.SkipLiteral();
+    if (literal.Size() != 0) pieces.push_back(Literal(std::string(literal.View())));
+    kx::FormatPiece piece;
+    kx::FormatPiece same;
+    const bool isThere = rest.TakeConversion(piece);
+    EXPECT_EQ(isThere, skipping.TakeConversion(same));
+    if (!isThere) return pieces;
+    EXPECT_EQ(piece.text.data(), same.text.data());
+    EXPECT_EQ(piece.argIndex, same.argIndex);
+    pieces.push_back(Conversion(std::string(piece.text), piece.argIndex));
+  }
+}
+
 /// Cuts the text in memory of its exact size, so that a sanitizer sees what reads too far.
 std::vector<Piece> Cut(std::string_view text) {
-  const auto exact = std::make_unique<char[]>(text.size());
+  const auto exact = std::make_unique<char[]>(text.size() + 1);
   text.copy(exact.get(), text.size());
-  std::vector<Piece> pieces;
-  for (const kx::FormatPiece& piece : kx::CutIntoPieces({exact.get(), text.size()})) {
-    pieces.push_back({piece.isLiteral, std::string(piece.text), piece.argIndex});
-  }
-  return pieces;
+  return CutTerminated(exact.get());
 }
 
 struct CutCase {
@@ -115,13 +131,14 @@ const CutCase kUnfinished[] = {
 
 INSTANTIATE_TEST_SUITE_P(Unfinished, FormatPieces, testing::ValuesIn(kUnfinished), NameOf);
 
-TEST(FormatPiecesMemory, TextsLieInTheTextThatWasCut) {
+TEST(FormatPiecesMemory, ConversionsLieInTheTextThatWasCut) {
   const std::string text = "one %5d:2 two %s three %";
-  const std::vector<kx::FormatPiece> pieces = kx::CutIntoPieces(text);
-  ASSERT_EQ(5U, pieces.size());
-  const std::size_t begins[] = {0, 4, 9, 14, 16};
-  for (std::size_t i = 0; i < pieces.size(); ++i) {
-    EXPECT_EQ(text.data() + begins[i], pieces[i].text.data());
+  kx::FormatPieces pieces(text.c_str());
+  kx::FormatPiece piece;
+  for (const std::size_t begin : {4U, 14U}) {
+    pieces.SkipLiteral();
+    ASSERT_TRUE(pieces.TakeConversion(piece));
+    EXPECT_EQ(text.data() + begin, piece.text.data());
   }
 }
 

@@ -14,6 +14,7 @@
 #include <string>
 
 #include "format/printf_piece.h"
+#include "format/result_text.h"
 
 namespace {
 
@@ -31,9 +32,9 @@ std::string Printed(const std::string& format, Value value) {
 }
 
 std::string Formatted(const std::string& piece, std::uint64_t word) {
-  std::string result;
+  kx::ResultText result;
   kx::PrintfPiece(piece).AppendTo(result, word);
-  return result;
+  return std::string(result.View());
 }
 
 class RandomPieces {

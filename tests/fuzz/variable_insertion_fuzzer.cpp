@@ -5,7 +5,6 @@
 // Long doubles are read from the places of pointers everywhere, two or three for each.
 
 #include <cstdarg>
-#include <string_view>
 
 #include "CKxXlate.h"
 #include "format/format_pieces.h"
@@ -26,9 +25,11 @@ void InsertList(char* buffer, const char* format, ...) {
 }
 
 /// Whether there are enough values for the text.
-bool HasValuesFor(std::string_view text) {
-  for (const kx::FormatPiece& piece : kx::CutIntoPieces(text)) {
-    if (!piece.isLiteral && piece.argIndex >= kMostArguments) return false;
+bool HasValuesFor(const char* text) {
+  kx::FormatPieces pieces(text);
+  kx::FormatPiece piece;
+  for (pieces.SkipLiteral(); pieces.TakeConversion(piece); pieces.SkipLiteral()) {
+    if (piece.argIndex >= kMostArguments) return false;
   }
   return true;
 }

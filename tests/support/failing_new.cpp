@@ -22,13 +22,13 @@ void* operator new(std::size_t size) {
   throw std::bad_alloc();
 }
 
-// Said although the standard library says the same: a sanitizer says something else.
+// A sanitizer's own would not come here.
 void* operator new[](std::size_t size) { return operator new(size); }
 
 void operator delete(void* block) noexcept { std::free(block); }
 
+void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+
 void operator delete[](void* block) noexcept { std::free(block); }
 
 void operator delete[](void* block, std::size_t) noexcept { std::free(block); }
-
-void operator delete(void* block, std::size_t) noexcept { std::free(block); }
