@@ -2,12 +2,18 @@
 kxxlate_unit_test(variable_insertion_test
   format/argument_walker_test.cpp
   format/conversion_test.cpp
+  format/decimal_digits_test.cpp
   format/format_pieces_test.cpp
   format/insert_variable_model_test.cpp
   format/insert_variable_test.cpp
   format/insert_variable_va_buffer_test.cpp
+  format/insert_variable_va_order_test.cpp
   format/insert_variable_va_test.cpp
   format/inserted.h
+  format/insertion_aliasing_test.cpp
+  format/insertion_limits_test.cpp
+  format/marked_text_test.cpp
+  format/plain_fraction_test.cpp
   format/printf_flags_test.cpp
   format/printf_fraction_model_test.cpp
   format/printf_lengths_test.cpp
@@ -15,6 +21,8 @@ kxxlate_unit_test(variable_insertion_test
   format/printf_piece_model_test.cpp
   format/printf_piece_test.cpp
   format/printf_same_bytes_test.cpp
+  format/result_text_test.cpp
+  format/short_list_test.cpp
   format/variable_cases.h
   format/variable_copy_test.cpp
   format/variable_memory_test.cpp
@@ -29,6 +37,7 @@ if(WIN32)
     format/wide_text_windows_test.cpp)
 else()
   target_sources(variable_insertion_test PRIVATE
+    format/decimal_point_posix_test.cpp
     format/long_double_posix_test.cpp
     format/wide_text_posix_test.cpp)
 endif()

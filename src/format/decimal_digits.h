@@ -45,8 +45,7 @@ void WritePair(char*& end, Number& number) noexcept {
   number /= 100;
 }
 
-/// Writes the last `count` digits of a number, with zeros in front if it has fewer, so that they
-/// end at `end`.
+/// Writes a number in `count` digits, which must not be too few, so that they end at `end`.
 inline void WriteDigits(char* end, std::uint64_t number, int count) noexcept {
   for (; count >= 2 && number > UINT32_MAX; count -= 2) WritePair(end, number);
   // Half the instructions of the wide division.
