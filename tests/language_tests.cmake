@@ -1,9 +1,15 @@
 # The language side: translators of language files, their cache, and what hosts see of them.
 kxxlate_unit_test(language_test
+  core/cached_translators_test.cpp
   core/held_language_test.cpp
   core/language_cache_change_test.cpp
   core/language_cache_fixture.h
   core/language_cache_test.cpp
+  core/language_cache_threads_test.cpp
+  core/language_rollout_test.cpp
+  core/language_switch.h
+  core/language_threads.h
+  core/shared_region_test.cpp
   lang/lang_file_place_test.cpp
   lang/lang_loader_test.cpp
   lang/language_translator.h
@@ -21,6 +27,10 @@ if(WIN32)
   target_sources(language_test PRIVATE
     core/held_language_windows_test.cpp
     lang/lang_loader_windows_test.cpp)
+else()
+  target_sources(language_test PRIVATE
+    core/language_cache_threads_posix_test.cpp
+    core/language_rollout_posix_test.cpp)
 endif()
 
 # Replaces operator new, so apart from all the others.
@@ -32,6 +42,21 @@ kxxlate_unit_test(allocation_test
   core/message_memory_test.cpp
   core/install_allocation_failure_test.cpp
   core/translator_memory_test.cpp)
+
+# Likewise.
+kxxlate_unit_test(language_bytes_test
+  core/language_bytes_test.cpp
+  core/live_bytes.cpp
+  core/live_bytes.h)
+
+if(NOT WIN32)
+  # Stands in front of the system's functions, so apart from all the others.
+  kxxlate_unit_test(language_questions_test
+    lang/lang_source_posix_test.cpp
+    support/file_questions.h
+    support/file_questions_posix.cpp)
+  target_link_libraries(language_questions_test PRIVATE ${CMAKE_DL_LIBS})
+endif()
 
 kxxlate_host_test(language_process_test
   process/language_directory.h

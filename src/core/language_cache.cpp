@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "bundles/resource_directory.h"
-#include "platform/given_text.h"
-#include "platform/thread_annotations.h"
+#include "lang/language_load.h"
+#include "platform/ascii_case.h"
 
 namespace kx {
 namespace {
@@ -15,14 +15,9 @@ constexpr char kEnglish[] = "EN";
 struct ReleaseTranslator {
   void operator()(CRealKxXlate* translator) const { translator->Release(); }
 };
-/// Destroys a translator that nobody holds yet when something fails.
-using NewTranslator = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
-
-std::string CacheKey(const char* name, const char* language, const char* region) {
-  std::string key = std::string(name).append("|").append(language);
-  if (IsGiven(region)) key.append("|").append(region);
-  return key;
-}
+/// One reference, or a new translator, which nobody holds yet and which is destroyed when something
+/// fails.
+using HeldTranslator = std::unique_ptr<CRealKxXlate, ReleaseTranslator>;
 
 /// Language files lie where the bundles lie, as that stands at the first lookup of a language; only
 /// when the load of the library left no root at all is there a search of their own.
@@ -42,56 +37,62 @@ void ComputeOnce(LanguagePaths& paths, const ResourceLocation& resources) {
 
 /// The cache of this process, made when it is first needed. Never destroyed: threads of a host may
 /// still look texts up while the process ends.
-CRealKxXlateCache& ProcessCache() KX_REQUIRES(CacheLock()) {
+CRealKxXlateCache& ProcessCache() {
   static CRealKxXlateCache* const cache = new CRealKxXlateCache(ProcessLanguageContext());
   return *cache;
 }
 
 }  // namespace
 
-CRealKxXlate* CRealKxXlateCache::FindOrLoad(const char* name, const char* language,
-                                            const char* region) {
-  const std::string key = CacheKey(name, language, region);
-  const auto cached = translators_.find(key);
-  if (cached == translators_.end()) return Load(key, name, language, region);
-  if (cached->second->IsStale()) Reload(cached->second, name, language, region);
-  cached->second->AddRef();  // for the caller
-  return cached->second;
-}
+CRealKxXlateCache::CRealKxXlateCache(const LanguageContext& context)
+    : context_{context.paths, context.strings, context.nextId, context.log, &shared_} {}
 
-void CRealKxXlateCache::Reload(CRealKxXlate*& cached, const char* name, const char* language,
-                               const char* region) {
-  // The new one first: when there is no memory for it, the old one stays in use. And it is kept
-  // whether or not it found a file: only a language never read before falls back to English.
-  NewTranslator fresh(new CRealKxXlate(context_, name, language, region));
-  // A file that its writer still keeps to itself: the old texts serve until the next request tries
-  // again.
-  if (!fresh->IsSettled()) return;
-  fresh->AddRef();  // for the cache
-  std::exchange(cached, fresh.release())->Release();
+CRealKxXlate* CRealKxXlateCache::FindUnchanged(const char* name, const char* language,
+                                               const char* region) const {
+  HeldTranslator found(translators_.Find(LanguageKey(name, language, region).Text()));
+  return found != nullptr && !found->IsStale() ? found.release() : nullptr;
 }
 
 // A language without files is not kept: the next request must look at the disk again, since the
 // files may have been installed meanwhile. Held by LanguageCache.AbsentLanguageIsTriedAgain.
-CRealKxXlate* CRealKxXlateCache::Load(const std::string& key, const char* name,
-                                      const char* language, const char* region) {
-  NewTranslator translator(new CRealKxXlate(context_, name, language, region));
-  if (!translator->AnyFileFound() && !EqualIgnoringAsciiCase(language, kEnglish)) return nullptr;
-  // What could be read is better than nothing, but only for this caller.
-  if (translator->IsSettled()) {
-    translators_.emplace(key, translator.get());
-    translator->AddRef();  // for the cache
+CRealKxXlate* CRealKxXlateCache::FindOrLoad(const char* name, const char* language,
+                                            const char* region) {
+  const LanguageKey key(name, language, region);
+  HeldTranslator old(translators_.Find(key.Text()));
+  // Somebody else may have read it while this thread waited for the lock.
+  if (old != nullptr && !old->IsStale()) return old.release();
+  LanguageNames names(name, language, region);
+  LoadedLanguage loaded = LoadLanguage(context_, names);
+  // One that had files is replaced whether or not any is left: only a language never read before
+  // falls back to English. It gives no translator, but takes the number of one.
+  const bool isEnglish = EqualIgnoringAsciiCase(language, kEnglish);
+  if (old == nullptr && !loaded.anyFileFound && !isEnglish) {
+    ++context_.nextId;
+    return nullptr;
   }
-  translator->AddRef();  // for the caller
-  return translator.release();
+  // When there is no memory for the new one, the old one stays in use.
+  HeldTranslator fresh(new CRealKxXlate(context_, std::move(loaded), std::move(names)));
+  if (fresh->IsSettled()) {
+    fresh->AddRef();  // for the cache, which nobody empties meanwhile
+    translators_.Put(key.Text(), fresh.get());
+  } else if (old != nullptr) {
+    // A file that its writer still keeps to itself: the old texts serve until the next request
+    // tries again.
+    return old.release();
+  }
+  // What could be read is better than nothing, but only for this caller when it was not kept.
+  fresh->AddRef();  // for the caller
+  return fresh.release();
 }
 
 void CRealKxXlateCache::Clear() {
-  for (const auto& [key, translator] : translators_) translator->Release();
-  translators_.clear();
+  translators_.Clear();
+  shared_.Clear();
 }
 
 CKxXlate* FindOrLoadLanguage(const char* name, const char* language, const char* region) {
+  // Most requests are done with this: no thread waits for another that asks the file system.
+  if (auto* found = ProcessCache().FindUnchanged(name, language, region)) return found;
   {
     const CriticalSectionGuard guard(CacheLock());
     ComputeOnce(ProcessLanguagePaths(), ProcessResources());

@@ -1,9 +1,10 @@
 #include "lang/lang_loader.h"
 
+#include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include "lang/lang_file_parser.h"
-#include "log/problem_sink.h"
 #include "log/translation_log.h"
 #include "platform/file_status.h"
 #include "platform/file_streams.h"
@@ -11,16 +12,17 @@
 namespace kx {
 namespace {
 
-/// Writes problems to the log.
-class LogSink final : public ProblemSink {
- public:
-  LogSink(TranslationLog& log, const std::string& root) : log_(log), root_(root) {}
-  void Line(const std::string& text) override { log_.WriteLine(root_, {text}); }
+constexpr std::string_view kCommon = "(Common)";
+constexpr std::string_view kExtension = ".lang";
+constexpr std::size_t kMostOfTheRest = 2 + kCommon.size() + kExtension.size();
 
- private:
-  TranslationLog& log_;
-  const std::string& root_;
-};
+void AppendLangFileName(std::string& path, const LangFile& file) {
+  path += file.language;
+  if (!file.country.empty()) path.append("-").append(file.country);
+  path += '/';
+  path += file.name.empty() ? kCommon : std::string_view(file.name);
+  path += kExtension;
+}
 
 /// Whether the candidate may be looked for: its language, region and name may come from a
 /// stranger's request.
@@ -37,17 +39,28 @@ bool IsWithin(const std::string& directory, const LangFile& file, const std::str
 
 std::string LangFileName(const std::string& language, const std::string& country,
                          const std::string& name) {
-  std::string relative = language;
-  if (!country.empty()) relative.append("-").append(country);
-  return relative.append("/").append(name.empty() ? "(Common)" : name).append(".lang");
+  std::string relative;
+  AppendLangFileName(relative, {language, country, name});
+  return relative;
+}
+
+std::string LangFilePath(const LanguageContext& context, const LangFile& file) {
+  std::string path;
+  path.reserve(context.paths.directory.size() + file.language.size() + file.country.size() +
+               file.name.size() + kMostOfTheRest);
+  path = context.paths.directory;
+  AppendLangFileName(path, file);
+  return path;
 }
 
 bool StaysInDirectory(std::string_view part) {
+  const auto isSeparator = [](char c) { return c == '/' || c == '\\'; };
   for (;;) {
-    const std::size_t end = part.find_first_of("/\\");
-    if (!KxIsPlainComponent(part.substr(0, end))) return false;
-    if (end == std::string_view::npos) return true;
-    part.remove_prefix(end + 1);
+    const auto* const end = std::find_if(part.begin(), part.end(), isSeparator);
+    const auto size = static_cast<std::size_t>(end - part.begin());
+    if (!KxIsPlainComponent(part.substr(0, size))) return false;
+    if (end == part.end()) return true;
+    part.remove_prefix(size + 1);
   }
 }
 
@@ -61,26 +74,45 @@ bool LangCandidate::IsStale() const {
          now.size != status.size;
 }
 
+LangSource::LangSource(const LanguageContext& context, const LangFile& file)
+    : directorySize_(context.paths.directory.size()) {
+  candidate_.path = LangFilePath(context, file);
+  isWithin_ = kx::IsWithin(context.paths.directory, file, candidate_.path);
+  if (!isWithin_) return;
+  const OpenedFile opened = OpenRegularFile(candidate_.path.c_str(), &seen_);
+  file_ = opened.file;
+  candidate_.isUnsettled = opened.mayOpenLater;
+}
+
+LangSource::~LangSource() {
+  if (IsOpen()) CloseFile(file_);
+}
+
+void LangSource::Read(InternTable& strings, ProblemSink& problems, LanguageContents& contents) {
+  // From before it was opened: of a file that is replaced meanwhile the old time is then kept with
+  // the new text, and the next request reads it again.
+  candidate_.status = seen_;
+  CKxIfstream stream(std::exchange(file_, kNoFile));
+  const std::string relative = candidate_.path.substr(directorySize_);
+  LangFileParser parser(relative, problems, strings);
+  ReadLangFile(parser, stream, contents, static_cast<std::size_t>(seen_.size));
+  candidate_.isUnsettled = stream.MayWorkLater();
+}
+
+void LogSink::Line(const std::string& text) { log_.WriteLine(root_, {text}); }
+
 bool LoadLangFile(const LanguageContext& context, const LangFile& file, LanguageContents& contents,
                   LangCandidate& candidate) {
-  const std::string relative = LangFileName(file.language, file.country, file.name);
-  candidate.path = context.paths.directory + relative;
-  if (!IsWithin(context.paths.directory, file, candidate.path)) return false;
-  // Asked before the file is opened: of a file that is replaced meanwhile the old time is then kept
-  // with the new text, and the next request reads it again.
-  KxFileStatus status;
-  const bool known = KxStat(candidate.path.c_str(), &status) == 0;
-  CKxIfstream stream;
-  KxIfstreamOpen(stream, candidate.path.c_str());
-  candidate.isUnsettled = stream.MayWorkLater();
-  if (stream.fail()) return false;
-  if (!known) KxStat(candidate.path.c_str(), &status);
-  candidate.status = status;
-  LogSink problems(context.log, context.paths.root);
-  LangFileParser parser(relative, problems, context.strings);
-  ReadLangFile(parser, stream, contents, static_cast<std::size_t>(status.size));
-  candidate.isUnsettled = stream.MayWorkLater();
-  return true;
+  LangSource source(context, file);
+  const bool isThere = source.IsOpen();
+  if (isThere) {
+    LogSink problems(context);
+    source.Read(context.strings, problems, contents);
+    candidate.status = source.Candidate().status;
+  }
+  candidate.isUnsettled = source.Candidate().isUnsettled;
+  candidate.path = source.TakeCandidate().path;
+  return isThere;
 }
 
 }  // namespace kx

@@ -5,9 +5,12 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "lang/language_contents.h"
 #include "lang/language_paths.h"
+#include "log/problem_sink.h"
+#include "platform/file_handle.h"
 #include "platform/file_status.h"
 
 namespace kx {
@@ -34,6 +37,16 @@ using LangCandidates = std::array<LangCandidate, kLangCandidates>;
 std::string LangFileName(const std::string& language, const std::string& country,
                          const std::string& name);
 
+/// Which file a candidate is: see LangFileName.
+struct LangFile {
+  const std::string& language;
+  const std::string& country;
+  const std::string& name;
+};
+
+/// Where that file lies.
+std::string LangFilePath(const LanguageContext& context, const LangFile& file);
+
 /// Whether a language, region or component's name can be a part of a path without leading anywhere
 /// but below the directory that it is joined to: see KxIsPlainComponent. "/" and "\" both separate
 /// its components.
@@ -42,11 +55,50 @@ std::string LangFileName(const std::string& language, const std::string& country
 /// to another place, beside which ".." then leads.
 bool StaysInDirectory(std::string_view part);
 
-/// Which file a candidate is: see LangFileName.
-struct LangFile {
-  const std::string& language;
-  const std::string& country;
-  const std::string& name;
+/// A candidate that has been looked for and, when it is there, is open.
+///
+/// Looked for with one question to the system and one piece of memory, since most candidates of
+/// most requests are not there.
+class LangSource {
+ public:
+  LangSource(const LanguageContext& context, const LangFile& file);
+  ~LangSource();
+  LangSource(const LangSource&) = delete;
+  LangSource& operator=(const LangSource&) = delete;
+
+  /// Whether there is a regular file of that name, within the directory, that could be opened.
+  bool IsOpen() const noexcept { return file_ != kNoFile; }
+
+  /// Reads the file, which must be open, into `contents`. Once.
+  void Read(InternTable& strings, ProblemSink& problems, LanguageContents& contents);
+
+  /// What is recorded of it; that it was read only when it was.
+  const LangCandidate& Candidate() const noexcept { return candidate_; }
+  LangCandidate TakeCandidate() noexcept { return std::move(candidate_); }
+
+  /// Whether it may be looked for: see StaysInDirectory.
+  bool IsWithin() const noexcept { return isWithin_; }
+
+  /// The status of whatever has the name; as it is made when nothing has.
+  const KxFileStatus& Seen() const noexcept { return seen_; }
+
+ private:
+  const std::size_t directorySize_;
+  LangCandidate candidate_;
+  bool isWithin_ = false;
+  KxFileStatus seen_;
+  FileHandle file_ = kNoFile;
+};
+
+/// Writes problems to the log.
+class LogSink final : public ProblemSink {
+ public:
+  explicit LogSink(const LanguageContext& context) : log_(context.log), root_(context.paths.root) {}
+  void Line(const std::string& text) override;
+
+ private:
+  TranslationLog& log_;
+  const std::string& root_;
 };
 
 /// Reads one candidate into `contents` and records it in `candidate`.

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -60,6 +61,9 @@ struct LanguageContents {
   LanguageTable labels;
   LanguageTable directories;
 };
+
+/// What one translator or several say; none of them changes it.
+using SharedContents = std::shared_ptr<const LanguageContents>;
 
 }  // namespace kx
 

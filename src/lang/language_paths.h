@@ -9,6 +9,7 @@
 namespace kx {
 
 class InternTable;
+class SharedLanguages;
 class TranslationLog;
 
 /// Where language files lie. Computed once, by the first lookup of a language, and constant from
@@ -26,6 +27,7 @@ struct LanguageContext {
   InternTable& strings;
   std::uint32_t& nextId;  ///< the identifier of the translator that is made next
   TranslationLog& log;
+  SharedLanguages* shared = nullptr;  ///< null: each translator reads all that it says
 };
 
 /// Serialises every lookup of a language in this process and with it every load of language files:

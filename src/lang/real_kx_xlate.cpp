@@ -2,57 +2,34 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "format/caller_buffer.h"
 #include "lang/lang_problems.h"
+#include "lang/language_load.h"
 #include "log/translation_log.h"
 #include "platform/given_text.h"
-#include "platform/utf8_text.h"
 #include "texts/measured_text.h"
-
-namespace {
-
-constexpr char kEnglish[] = "EN";
-constexpr char kDefaultCharset[] = "ISO-8859-1";
-
-std::string DisplayName(const std::string& languageCode, const char* country, const char* name) {
-  std::string displayName = languageCode;
-  if (kx::IsGiven(country)) displayName.append("-").append(country);
-  return displayName.append(" (").append(name).append(")");
-}
-
-}  // namespace
 
 CRealKxXlate::CRealKxXlate(const kx::LanguageContext& context, const char* name,
                            const char* language, const char* country)
-    : name_(name),
-      languageCode_(CKxUTF8ToUpper(language).Text()),
-      displayName_(DisplayName(languageCode_, country, name)),
-      logRoot_(context.paths.root),
-      log_(context.log) {
-  LoadFiles(context, country);
-  // Nor is it known of a file that cannot be opened for the moment that there is none.
-  if (!anyFileFound_ && IsSettled() && languageCode_ != kEnglish) {
-    log_.WriteLine(logRoot_, {kx::NoFilesLine(displayName_)});
-  }
-  if (contents_.charset.empty()) contents_.charset = kDefaultCharset;
-  id_ = context.nextId++;
-}
+    : CRealKxXlate(context, kx::LanguageNames(name, language, country)) {}
 
-void CRealKxXlate::LoadFiles(const kx::LanguageContext& context, const char* country) {
-  std::size_t next = 0;
-  const auto load = [&](const std::string& name) {
-    const kx::LangFile file = {languageCode_, countryCode_, name};
-    anyFileFound_ |= kx::LoadLangFile(context, file, contents_, candidates_[next++]);
-  };
-  // Each later file overrides the ones before it, so the most specific comes last.
-  load("");
-  load(name_);
-  if (!kx::IsGiven(country)) return;
-  countryCode_ = CKxUTF8ToUpper(country).Text();
-  load("");
-  load(name_);
-}
+CRealKxXlate::CRealKxXlate(const kx::LanguageContext& context, kx::LanguageNames&& names)
+    : CRealKxXlate(context, kx::LoadLanguage(context, names), std::move(names)) {}
+
+CRealKxXlate::CRealKxXlate(const kx::LanguageContext& context, kx::LoadedLanguage&& loaded,
+                           kx::LanguageNames&& names)
+    : name_(std::move(names.name)),
+      languageCode_(std::move(names.languageCode)),
+      countryCode_(std::move(names.countryCode)),
+      displayName_(std::move(names.displayName)),
+      anyFileFound_(loaded.anyFileFound),
+      candidates_(std::move(loaded.candidates)),
+      contents_(loaded.anyFileFound ? std::move(loaded.contents) : kx::EmptyContents()),
+      id_(context.nextId++),
+      logRoot_(context.paths.root),
+      log_(context.log) {}
 
 void CRealKxXlate::Release() {
   if (references_.Drop()) delete this;
@@ -66,27 +43,29 @@ const char* CRealKxXlate::GetLanguageCode() { return languageCode_.c_str(); }
 
 const char* CRealKxXlate::GetCountryCode() { return countryCode_.c_str(); }
 
-const char* CRealKxXlate::GetLongName() { return contents_.longName; }
+const char* CRealKxXlate::GetLongName() { return contents_->longName; }
 
-const char* CRealKxXlate::GetCharset() { return contents_.charset.c_str(); }
+const char* CRealKxXlate::GetCharset() { return contents_->charset.c_str(); }
 
 std::uint32_t CRealKxXlate::GetId() { return id_; }
 
-const char* CRealKxXlate::GetImageDirectory() { return contents_.imageDirectory; }
+const char* CRealKxXlate::GetImageDirectory() { return contents_->imageDirectory; }
 
-const char* CRealKxXlate::GetDirection() { return contents_.direction.c_str(); }
+const char* CRealKxXlate::GetDirection() { return contents_->direction.c_str(); }
 
-const char* CRealKxXlate::GetPromptSuffix() { return contents_.promptSuffix; }
+const char* CRealKxXlate::GetPromptSuffix() { return contents_->promptSuffix; }
 
 const char* CRealKxXlate::GetDirectory(const char* name) {
-  return FindKey(contents_.directories, kDirectories, name);
+  return FindKey(contents_->directories, kDirectories, name);
 }
 
 bool CRealKxXlate::GetDirectory(char* dst, KxSize size, const char* name) {
   return kx::AnswerLookup(dst, size, GetDirectory(name), nullptr);
 }
 
-const char* CRealKxXlate::GetText(const char* key) { return FindKey(contents_.texts, kTexts, key); }
+const char* CRealKxXlate::GetText(const char* key) {
+  return FindKey(contents_->texts, kTexts, key);
+}
 
 bool CRealKxXlate::GetText(char* dst, KxSize size, const char* key, const char* dflt) {
   const char* const found = GetText(key);
@@ -98,7 +77,7 @@ bool CRealKxXlate::GetText(char* dst, KxSize size, const char* key, const char* 
 }
 
 const char* CRealKxXlate::GetLabel(const char* key) {
-  return FindKey(contents_.labels, kLabels, key);
+  return FindKey(contents_->labels, kLabels, key);
 }
 
 bool CRealKxXlate::GetLabel(char* dst, KxSize size, const char* key) {
@@ -107,7 +86,7 @@ bool CRealKxXlate::GetLabel(char* dst, KxSize size, const char* key) {
 
 bool CRealKxXlate::GetPrompt(char* dst, KxSize size, const char* key, const char* dflt) {
   const bool found = GetText(dst, size, key, dflt);
-  const char* suffix = contents_.promptSuffix;
+  const char* suffix = contents_->promptSuffix;
   if (dst == nullptr || size == 0 || suffix == nullptr || *dst == '\0') return found;
   const std::size_t length = std::strlen(dst);
   // A default gets the suffix, too; the suffix is never cut.

@@ -14,7 +14,13 @@
 #include "platform/thread_annotations.h"
 #include "texts/noted_keys.h"
 
-/// The texts of one component in one language, merged from up to four language files.
+namespace kx {
+struct LanguageNames;
+struct LoadedLanguage;
+}  // namespace kx
+
+/// The texts of one component in one language, merged from up to four language files. A region that
+/// has no files shares those of its language.
 ///
 /// Made by the language cache, which takes one reference for itself and one for each caller that it
 /// hands the object to; a new object carries none. When a file changes on disk the cache replaces
@@ -33,6 +39,10 @@ class CRealKxXlate final : public CKxXlate {
   /// Throws std::bad_alloc only.
   CRealKxXlate(const kx::LanguageContext& context, const char* name, const char* language,
                const char* country);
+
+  /// The same of what has been loaded.
+  CRealKxXlate(const kx::LanguageContext& context, kx::LoadedLanguage&& loaded,
+               kx::LanguageNames&& names);
 
   /// Also destroys an object that nobody holds.
   void Release() override;
@@ -70,9 +80,9 @@ class CRealKxXlate final : public CKxXlate {
   bool IsSettled() const;
 
  private:
+  CRealKxXlate(const kx::LanguageContext& context, kx::LanguageNames&& names);
   ~CRealKxXlate() override = default;
 
-  void LoadFiles(const kx::LanguageContext& context, const char* country);
   /// Which table a key was asked for in vain.
   enum Table { kTexts, kLabels, kDirectories, kTables };
 
@@ -87,7 +97,7 @@ class CRealKxXlate final : public CKxXlate {
   std::string displayName_;
   bool anyFileFound_ = false;
   kx::LangCandidates candidates_;
-  kx::LanguageContents contents_;
+  kx::SharedContents contents_;
   std::uint32_t id_ = 0;
 
   // The keys that were asked for in vain, apart for each table, so that a key is logged once for

@@ -1,5 +1,6 @@
 #include "log/translation_log.h"
 
+#include <algorithm>
 #include <memory>
 #include <ostream>
 
@@ -26,15 +27,15 @@ std::string LogFilePath(const std::string& root) {
   return KxLeavesTheMachine(directory, path) ? std::string() : path;
 }
 
+bool EndsLines(char c) { return c == '\n' || c == '\r'; }
+
 void AppendOnOneLine(std::string& line, std::string_view piece) {
-  for (const char c : piece) {
-    if (c == '\n') {
-      line += "\\n";
-    } else if (c == '\r') {
-      line += "\\r";
-    } else {
-      line += c;
-    }
+  while (!piece.empty()) {
+    const auto* const end = std::find_if(piece.begin(), piece.end(), EndsLines);
+    line.append(piece.begin(), end);
+    if (end == piece.end()) return;
+    line += *end == '\n' ? "\\n" : "\\r";
+    piece.remove_prefix(static_cast<std::size_t>(end - piece.begin()) + 1);
   }
 }
 

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+struct KxFileStatus;
+
 namespace kx {
 
 /// An open file of the system: a descriptor or a handle.
@@ -32,7 +34,10 @@ struct FileBlock {
 
 /// Opens the regular file `path` (UTF-8) for reading; nothing that is not a regular file, such as a
 /// pipe, a device or a directory.
-OpenedFile OpenRegularFile(const char* path);
+///
+/// @param status  null, or where to put the status that `path` had before it was opened, also when
+///                it could not be opened; untouched when there is nothing of that name
+OpenedFile OpenRegularFile(const char* path, KxFileStatus* status = nullptr);
 
 /// Opens `path` (UTF-8) for writing at its end and creates it when missing; no pipe.
 OpenedFile OpenForAppending(const char* path);

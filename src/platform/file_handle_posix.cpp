@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <ctime>
 
+#include "platform/file_status_posix.h"
+
 namespace kx {
 namespace {
 
@@ -60,10 +62,11 @@ mode_t KindOf(int descriptor) {
 
 }  // namespace
 
-OpenedFile OpenRegularFile(const char* path) {
+OpenedFile OpenRegularFile(const char* path, KxFileStatus* status) {
   // Opening alone has effects on what is no file: it lets a pipe's writer go on, it winds a tape.
   struct stat found;
   if (::stat(path, &found) != 0) return {kNoFile, IsPassing(errno)};
+  if (status != nullptr) SetStatus(found, *status);
   if (!S_ISREG(found.st_mode)) return {};
   const int descriptor = Open(path, O_RDONLY);
   if (descriptor < 0) return {kNoFile, IsPassing(errno)};

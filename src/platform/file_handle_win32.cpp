@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/file_status.h"
 #include "platform/wide_path_win32.h"
 
 namespace kx {
@@ -67,9 +68,11 @@ OpenedFile Open(const char* path, DWORD access, DWORD disposition) {
 
 }  // namespace
 
-OpenedFile OpenRegularFile(const char* path) {
+OpenedFile OpenRegularFile(const char* path, KxFileStatus* status) {
+  const bool isKnown = status == nullptr || KxStat(path, status) == 0;
   const OpenedFile opened = Open(path, GENERIC_READ, OPEN_EXISTING);
   if (opened.file == kNoFile) return opened;
+  if (!isKnown) KxStat(path, status);
   // A device or a pipe can still be reached, by a name that only the system uses.
   if (::GetFileType(Handle(opened.file)) == FILE_TYPE_DISK) return opened;
   ::CloseHandle(Handle(opened.file));

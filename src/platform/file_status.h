@@ -10,6 +10,13 @@ struct KxFileStatus {
   std::uint32_t modifiedNanoseconds = 0;  ///< the rest of it, to the finest unit the system gives
   std::uint64_t size = 0;                 ///< in bytes
   std::uint32_t mode = 0;  ///< kind bits, the same on every platform; see kKxModeDirectory
+  /// Together they tell one file, and on some systems one state of it, from another that has its
+  /// time and its size.
+  std::uint64_t device = 0;
+  std::uint64_t number = 0;  ///< within the device
+  std::int64_t changed = 0;  ///< in any way, where the system tells; else when the file was made
+
+  bool operator==(const KxFileStatus&) const = default;
 };
 
 /// Bit of KxFileStatus::mode that says "directory".

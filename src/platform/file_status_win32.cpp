@@ -45,6 +45,10 @@ int KxStat(const char* path, KxFileStatus* status) {
   status->size = Join(found.nFileSizeHigh, found.nFileSizeLow);
   const bool isDirectory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   status->mode = isDirectory ? kKxModeDirectory : 0;
+  status->device = found.dwVolumeSerialNumber;
+  status->number = Join(found.nFileIndexHigh, found.nFileIndexLow);
+  status->changed = static_cast<std::int64_t>(
+      Join(found.ftCreationTime.dwHighDateTime, found.ftCreationTime.dwLowDateTime));
   return 0;
 }
 

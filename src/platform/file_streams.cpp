@@ -22,11 +22,11 @@ bool FileInputBuffer::Open(const char* path) {
 }
 
 FileInputBuffer::int_type FileInputBuffer::underflow() {
-  block_.resize(kBlockBytes);
-  const std::size_t count = Read(block_.data(), block_.size());
+  if (block_ == nullptr) block_ = std::make_unique_for_overwrite<char[]>(kBlockBytes);
+  const std::size_t count = Read(block_.get(), kBlockBytes);
   if (count == 0) return traits_type::eof();
-  setg(block_.data(), block_.data(), block_.data() + count);
-  return traits_type::to_int_type(block_.front());
+  setg(block_.get(), block_.get(), block_.get() + count);
+  return traits_type::to_int_type(block_[0]);
 }
 
 // Into the caller's memory at once: readers of whole files have a block of their own.

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <istream>
+#include <memory>
 #include <ostream>
 #include <streambuf>
-#include <vector>
 
 #include "platform/file_handle.h"
 
@@ -18,6 +18,8 @@ namespace kx {
 class FileInputBuffer final : public std::streambuf {
  public:
   FileInputBuffer() = default;
+  /// Takes over an open file.
+  explicit FileInputBuffer(FileHandle file) : file_(file) {}
   FileInputBuffer(const FileInputBuffer&) = delete;
   FileInputBuffer& operator=(const FileInputBuffer&) = delete;
   ~FileInputBuffer() override;
@@ -34,7 +36,7 @@ class FileInputBuffer final : public std::streambuf {
 
   FileHandle file_ = kNoFile;
   bool mayWorkLater_ = false;
-  std::vector<char> block_;
+  std::unique_ptr<char[]> block_;
 };
 
 /// Hands each write to the system at once, so that a line written whole lands whole in the file. A
@@ -67,6 +69,11 @@ class FileOutputBuffer final : public std::streambuf {
 class CKxIfstream final : public std::istream {
  public:
   CKxIfstream() : std::istream(nullptr) { init(&buffer_); }
+
+  /// Over a file that is open, and that the stream takes over.
+  explicit CKxIfstream(kx::FileHandle file) : std::istream(nullptr), buffer_(file) {
+    init(&buffer_);
+  }
 
   /// Whether there is a file whose text this stream has not given, or not to its end, for a reason
   /// that passes: see OpenedFile. Every read that fails half-way counts as one.

@@ -101,6 +101,12 @@ TEST_F(LanguageChurn, FindsTextsOfSeveralFilesMeanwhile) {
   ExpectMisses("FR-ca (agent)");
 }
 
+TEST_F(LanguageChurn, FindsTextsOfARegionWithoutFilesMeanwhile) {
+  Provide("FR/agent.lang", "text");
+  Churn("fr-ca");
+  ExpectMisses("FR-ca (agent)");
+}
+
 TEST_F(LanguageChurn, FindsTextsOfABundleMeanwhile) {
   Provide("FR/agent.lang", "wrong");
   tree_.Write("product/resources/agent.properties", "K=text\n");

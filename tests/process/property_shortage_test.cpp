@@ -22,7 +22,7 @@ TEST_F(PropertyLookup, MissThatMemoryDidNotSufficeToLogIsLoggedByTheNextRequest)
   for (std::string key; std::getline(output, key); ++keys)
     lines += Line("agent_fr.properties", key);
   EXPECT_EQ(lines, Log());
-  EXPECT_GT(keys, 3) << "memory for so few requests failed that this says nothing";
+  EXPECT_GE(keys, 3) << "memory for so few requests failed that this says nothing";
 }
 
 }  // namespace

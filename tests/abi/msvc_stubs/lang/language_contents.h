@@ -1,5 +1,5 @@
 #pragma once
 namespace kx {
 class LanguageTable;
-class LanguageContents {};
+class SharedContents {};
 }  // namespace kx
