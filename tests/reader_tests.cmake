@@ -19,6 +19,7 @@ kxxlate_unit_test(bundle_reader_test
 # What both kinds of catalogues keep their texts in.
 kxxlate_unit_test(texts_test
   texts/folded_key_test.cpp
+  texts/growing_table_test.cpp
   texts/key_table_test.cpp
   texts/line_reader_test.cpp
   texts/measured_text_test.cpp

@@ -6,11 +6,14 @@ kxxlate_unit_test(bundle_registry_test
   bundles/bundle_test.cpp
   bundles/held_bundle_test.cpp
   bundles/install_manager_test.cpp
+  bundles/lasting_translators_test.cpp
   bundles/parent_locale_test.cpp
   bundles/properties_bundle_test.cpp
   bundles/properties_translator.h
   bundles/properties_xlate_copy_test.cpp
   bundles/properties_xlate_test.cpp
+  bundles/request_digest_test.cpp
+  bundles/resolved_translators_test.cpp
   bundles/split_locale_test.cpp
   bundles/xlate_manager_test.cpp
   scenarios/property_fallback_test.cpp)

@@ -18,6 +18,7 @@ bool InstalledManagers::InstallXlateManager(const char* directory, ResourceLocat
   auto manager = std::make_unique<XlateManager>(directory);
   KxTraverseDirectory(directory, manager.get());  // one that cannot be read holds no bundles
   manager->CompleteDefaults();
+  manager->LastForEver();
   retired_ = current_.load(std::memory_order_relaxed);
   current_.store(manager.release(), std::memory_order_release);
   resources.SetDirectory(std::move(stored));

@@ -1,5 +1,6 @@
 #include "bundles/properties_xlate.h"
 
+#include <cstring>
 #include <ctime>
 #include <ostream>
 
@@ -18,10 +19,8 @@ PropertiesXlate::PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner) : owner
 }
 
 void PropertiesXlate::Release() {
-  if (references_.Drop()) delete this;
+  if (!lasts_ && references_.Drop()) delete this;
 }
-
-void PropertiesXlate::AddRef() { references_.Add(); }
 
 const char* PropertiesXlate::GetName() { return owner_->BundleName().c_str(); }
 
@@ -95,24 +94,42 @@ void PropertiesXlate::NoteMissingKey(std::string_view key, std::uint64_t hash) {
 }
 
 namespace kx {
+namespace {
 
-CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle, const char* locale) {
-  if (manager == nullptr) return nullptr;
-  bnd::BundleBase<CKxXlate>* entry = manager->FindEntry(bundle, locale);
+/// Answers a request that is not remembered; remembers it when it can be answered the same way for
+/// ever.
+[[gnu::noinline]] CKxXlate* Resolve(const XlateManager& manager, const char* bundle,
+                                    const char* locale) {
+  bnd::BundleBase<CKxXlate>* entry = manager.FindEntry(bundle, locale);
   if (entry == nullptr) return nullptr;
   // Made of a file that could not be read for a reason that passes: for this caller alone, who gets
   // its first reference. The next request reads the file again.
   PropertiesXlate* unsettled = nullptr;
-  const auto make = [&unsettled](const bnd::BundleFile<CKxXlate>& file) -> CKxXlate* {
+  const auto make = [&](const bnd::BundleFile<CKxXlate>& file) -> CKxXlate* {
     auto* made = new PropertiesXlate(&file);
-    if (made->IsSettled()) return made;
-    unsettled = made;
-    return nullptr;
+    if (!made->IsSettled()) {
+      unsettled = made;
+      return nullptr;
+    }
+    if (manager.LastsForEver()) made->LastForEver();
+    return made;
   };
-  CKxXlate* translator = entry->GetFile()->Translator(make);
+  auto* translator = static_cast<PropertiesXlate*>(entry->GetFile()->Translator(make));
   if (translator == nullptr) return unsettled;
+  // Not what the bundle has no entry of: so the bundle's bounds are those of the requests as well.
+  if (entry->Locale().size() == std::strlen(locale)) {
+    manager.Resolved().Remember(bundle, locale, *translator);
+  }
   translator->AddRef();  // for the caller
   return translator;
+}
+
+}  // namespace
+
+CKxXlate* GetPropertiesBundle(const XlateManager* manager, const char* bundle, const char* locale) {
+  if (manager == nullptr) return nullptr;
+  CKxXlate* const resolved = FindResolvedBundle(*manager, bundle, locale);
+  return resolved == nullptr ? Resolve(*manager, bundle, locale) : resolved;
 }
 
 CKxXlate* GetPropertiesBundle(const char* bundle, const char* locale) {

@@ -8,12 +8,11 @@
 #include "CKxXlate.h"
 #include "bundles/bundle_entries.h"
 #include "bundles/properties_reader.h"
+#include "bundles/xlate_manager.h"
 #include "platform/critical_section.h"
 #include "platform/reference_count.h"
 #include "platform/thread_annotations.h"
 #include "texts/noted_keys.h"
-
-class XlateManager;
 
 /// The texts of one .properties file.
 ///
@@ -33,7 +32,9 @@ class PropertiesXlate final : public CKxXlate {
   explicit PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner);
 
   void Release() override;
-  void AddRef() override;
+  void AddRef() override {
+    if (!lasts_) references_.Add();
+  }
   const char* GetName() override;
   const char* GetLanguageCode() override;  ///< as spelled in the file's name
   const char* GetCountryCode() override;   ///< as spelled in the file's name
@@ -60,6 +61,11 @@ class PropertiesXlate final : public CKxXlate {
   /// read to its end for a reason that passes, and reading it again may give more.
   bool IsSettled() const noexcept { return isSettled_; }
 
+  /// Says that the owner is never destroyed: its reference keeps this object for the life of the
+  /// process, so no others need be counted, and threads that take and give them back share no
+  /// memory that one of them writes. To be called while nobody else has the object.
+  void LastForEver() noexcept { lasts_ = true; }
+
   /// Writes all texts to standard output, in no particular order; to be called from a debugger.
   void DumpTable() const;
 
@@ -67,6 +73,10 @@ class PropertiesXlate final : public CKxXlate {
   ~PropertiesXlate() override = default;
 
   void NoteMissingKey(std::string_view key, std::uint64_t hash) KX_EXCLUDES(lock_);
+
+  // First, to lie in one line of the cache with what tells the operations: taking a reference and
+  // giving it back look at no other.
+  bool lasts_ = false;
 
   // Constant after construction, so that lookups that find their key need no lock.
   kx::PropertyTable texts_;
@@ -85,6 +95,14 @@ class PropertiesXlate final : public CKxXlate {
 };
 
 namespace kx {
+
+/// As GetPropertiesBundle, for a request that has been answered before; null for any other.
+inline CKxXlate* FindResolvedBundle(const XlateManager& manager, const char* bundle,
+                                    const char* locale) {
+  PropertiesXlate* const translator = manager.Resolved().Find(bundle, locale);
+  if (translator != nullptr) translator->AddRef();  // for the caller
+  return translator;
+}
 
 /// The translator that `manager` (null: none) has for a bundle and locale, with a reference for the
 /// caller; null when it has none. Reads the file on its first use.

@@ -58,6 +58,19 @@ TEST_F(PropertyLookup, AcquiringALoadedTranslatorAllocatesNothing) {
   }
 }
 
+TEST_F(PropertyLookup, RequestIsRememberedWholeOrNotAtAllThoughMemoryFails) {
+  auto* const texts = static_cast<PropertiesXlate*>(kx::GetPropertiesBundle(&manager_, "msg", ""));
+  for (const char* locale : {"fr-CA", "fr-CA-of-more-than-sixteen-bytes"}) {
+    kx::ResolvedTranslators resolved;
+    const int failures =
+        FailEachAllocation([&] { resolved.Remember("msg", locale, *texts); },
+                           [&] { EXPECT_EQ(nullptr, resolved.Find("msg", locale)); });
+    EXPECT_GT(failures, 2);
+    EXPECT_EQ(texts, resolved.Find("msg", locale));
+  }
+  texts->Release();
+}
+
 TEST_F(PropertyLookup, AcquiringByALocaleTooLongToRememberAllocatesNothing) {
   AcquireAndRelease("zh-Hant-TW");
   const std::string locale = "zh-Hant-TW-" + std::string(200'000, 'x');
