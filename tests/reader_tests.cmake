@@ -29,11 +29,12 @@ kxxlate_unit_test(texts_test
 
 kxxlate_unit_test(platform_text_test
   platform/ascii_case_test.cpp
-  platform/key_hash_test.cpp
   platform/utf8_text_test.cpp)
 
 # Replaces operator new, so apart from all the others.
 kxxlate_unit_test(reader_memory_test
+  bundles/bundle_of_files.h
+  bundles/bundle_shortage_test.cpp
   bundles/properties_memory_test.cpp
   bundles/properties_rows.h
   bundles/lookup_memory_test.cpp

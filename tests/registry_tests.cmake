@@ -3,9 +3,11 @@ kxxlate_unit_test(bundle_registry_test
   bundles/bundle_file_name_test.cpp
   bundles/bundle_memory_test.cpp
   bundles/bundle_of_files.h
+  bundles/bundle_order_test.cpp
   bundles/bundle_test.cpp
   bundles/held_bundle_test.cpp
   bundles/install_manager_test.cpp
+  bundles/install_order_test.cpp
   bundles/lasting_translators_test.cpp
   bundles/parent_locale_test.cpp
   bundles/properties_bundle_test.cpp

@@ -24,7 +24,8 @@ kxxlate_unit_test(platform_test
   platform/file_streams_test.cpp
   platform/files_test.cpp
   platform/passing_failures_test.cpp
-  platform/stream_bytes.h)
+  platform/stream_bytes.h
+  platform/unsorted_traversal_test.cpp)
 if(WIN32)
   target_sources(platform_test PRIVATE
     platform/file_place_windows_test.cpp
@@ -45,6 +46,7 @@ endif()
 if(NOT WIN32)
   # Stands in front of the system's functions, so apart from all the others.
   kxxlate_unit_test(system_calls_test
+    bundles/half_listed_directory_posix_test.cpp
     platform/entry_list.h
     platform/stream_bytes.h
     platform/system_calls_posix_test.cpp

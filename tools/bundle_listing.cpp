@@ -27,11 +27,13 @@ class Lister final : public bnd::BundleManager<NoTranslator> {
       listing_.unserved.push_back({name, ""});
       return true;
     }
-    AddBundleFile(Root(), name, parts->bundle, parts->locale);
-    auto* entry = FindEntry(parts->bundle.c_str(), parts->locale.c_str());
+    const std::string bundle(parts->bundle);
+    const std::string locale(parts->locale);
+    AddBundleFile(name, bundle, locale);
+    auto* entry = FindEntry(bundle, locale);
     const std::string server = entry == nullptr ? "" : NameOf(*entry);
     if (server == name) {
-      listing_.bundles[parts->bundle].insert(parts->locale);
+      listing_.bundles[bundle].insert(locale);
     } else {
       listing_.unserved.push_back({name, server});
     }

@@ -13,11 +13,15 @@ constexpr std::size_t kLanguageLength = 2;
 }  // namespace
 
 std::optional<BundleFileName> SplitBundleFileName(std::string_view fileName) {
-  if (!EndsWithIgnoringAsciiCase(fileName, kSuffix)) return std::nullopt;
+  // Nearly all names are spelled so, and are compared at once: directories of many files are read
+  // while a process starts.
+  if (!fileName.ends_with(kSuffix) && !EndsWithIgnoringAsciiCase(fileName, kSuffix)) {
+    return std::nullopt;
+  }
   const std::string_view base = fileName.substr(0, fileName.size() - kSuffix.size());
   const std::size_t end = base.find('_');
-  if (end == std::string_view::npos) return BundleFileName{std::string(base), {}};
-  return BundleFileName{std::string(base.substr(0, end)), std::string(base.substr(end + 1))};
+  if (end == std::string_view::npos) return BundleFileName{base, {}};
+  return BundleFileName{base.substr(0, end), base.substr(end + 1)};
 }
 
 std::string HyphenAlias(std::string_view locale) {

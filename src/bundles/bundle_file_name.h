@@ -7,10 +7,10 @@
 
 namespace kx {
 
-/// What the name of a bundle file says.
+/// What the name of a bundle file says. Points into that name.
 struct BundleFileName {
-  std::string bundle;  ///< everything before the first "_"; so a bundle's name never holds one
-  std::string locale;  ///< everything behind it; empty for the bundle's default file
+  std::string_view bundle;  ///< everything before the first "_"; so a bundle's name never holds one
+  std::string_view locale;  ///< everything behind it; empty for the bundle's default file
 };
 
 /// Splits a file name such as "agent_fr_CA.properties" (the suffix in any case); nothing when it

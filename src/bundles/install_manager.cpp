@@ -16,7 +16,10 @@ bool InstalledManagers::InstallXlateManager(const char* directory, ResourceLocat
   if (retired_ != nullptr) return false;
   std::string stored = directory;
   auto manager = std::make_unique<XlateManager>(directory);
-  KxTraverseDirectory(directory, manager.get());  // one that cannot be read holds no bundles
+  if (KxTraverseUnsorted(directory, manager.get()) != 0) {
+    manager = std::make_unique<XlateManager>(directory);  // what cannot be read holds no bundles
+  }
+  manager->SortFiles();
   manager->CompleteDefaults();
   manager->LastForEver();
   retired_ = current_.load(std::memory_order_relaxed);

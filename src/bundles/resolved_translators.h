@@ -63,7 +63,7 @@ class ResolvedTranslators {
 
   // Written under the lock, read without.
   CriticalSection lock_;
-  GrowingTable<Request> requests_;
+  GrowingTable<const Request> requests_;
   // In few large pieces, so that one among many is found in few pages of memory.
   std::vector<std::unique_ptr<Request[]>> pieces_ KX_GUARDED_BY(lock_);
   std::size_t room_ KX_GUARDED_BY(lock_) = 0;  ///< of the last piece

@@ -5,7 +5,7 @@
 bool XlateManager::OnEntry(const char* name, bool isDirectory) {
   if (isDirectory) return true;
   if (const auto parts = kx::SplitBundleFileName(name)) {
-    AddBundleFile(Root(), name, parts->bundle, parts->locale);
+    AddBundleFile(name, parts->bundle, parts->locale);
   }
   return true;
 }

@@ -23,6 +23,11 @@ class CKxTraverseCallback {
 /// throws.
 int KxTraverseDirectory(const char* directory, CKxTraverseCallback* callback);
 
+/// As KxTraverseDirectory, in the system's order, and each entry as it is read: when the directory
+/// cannot be read to its end, the callback has been told of what came before. For whoever can do
+/// without the order, which costs more than the rest.
+int KxTraverseUnsorted(const char* directory, CKxTraverseCallback* callback);
+
 /// Creates the directory `path` (UTF-8; its parent must exist).
 ///
 /// @param mode  permissions as the system's file mode bits, less the process's mask; not used on

@@ -7,8 +7,6 @@
 #include <cstring>
 #include <memory>
 
-#include "platform/directory_entries.h"
-
 namespace {
 
 struct CloseDirectory {
@@ -27,20 +25,16 @@ bool IsDotName(const char* name) {
 
 }  // namespace
 
-namespace kx {
-
-bool ListDirectory(const char* directory, std::vector<DirectoryEntry>& entries) {
+int KxTraverseUnsorted(const char* directory, CKxTraverseCallback* callback) {
   const std::unique_ptr<DIR, CloseDirectory> open(::opendir(directory));
-  if (open == nullptr) return false;
+  if (open == nullptr) return -1;
   for (;;) {
     errno = 0;  // the end of the directory and an error answer alike
     const dirent* entry = ::readdir(open.get());
-    if (entry == nullptr) return errno == 0;
+    if (entry == nullptr) return errno == 0 ? 0 : -1;
     if (IsDotName(entry->d_name)) continue;
-    entries.push_back({entry->d_name, IsDirectory(open.get(), *entry)});
+    if (!callback->OnEntry(entry->d_name, IsDirectory(open.get(), *entry))) return 0;
   }
 }
-
-}  // namespace kx
 
 int KxMakeDir(const char* path, unsigned mode) { return ::mkdir(path, static_cast<mode_t>(mode)); }

@@ -4,7 +4,6 @@
 
 #include <string_view>
 
-#include "platform/directory_entries.h"
 #include "platform/wide_path_win32.h"
 
 namespace {
@@ -32,28 +31,25 @@ bool IsDotName(std::wstring_view name) { return name == L"." || name == L".."; }
 
 }  // namespace
 
-namespace kx {
-
-bool ListDirectory(const char* directory, std::vector<DirectoryEntry>& entries) {
+int KxTraverseUnsorted(const char* directory, CKxTraverseCallback* callback) {
   std::string pattern = directory;
-  if (pattern.empty()) return false;  // or the pattern would name the root of the drive
+  if (pattern.empty()) return -1;  // or the pattern would name the root of the drive
   // Two separators at the beginning would name another machine.
   if (pattern.find_last_of("/\\") != pattern.size() - 1) pattern += '\\';
-  Search search(WidePath(pattern.append("*").c_str()));
-  if (!search.IsOpen())
-    return ::GetLastError() == ERROR_FILE_NOT_FOUND;  // the root of an empty drive
+  Search search(kx::WidePath(pattern.append("*").c_str()));
+  if (!search.IsOpen()) {
+    return ::GetLastError() == ERROR_FILE_NOT_FOUND ? 0 : -1;  // the root of an empty drive
+  }
   do {
     const std::wstring_view name = search.Entry().cFileName;
     if (IsDotName(name)) continue;
-    const std::string utf8Name = ToUtf8(name);
+    const std::string utf8Name = kx::ToUtf8(name);
     if (utf8Name.empty()) continue;  // half a surrogate pair: no UTF-8 text can name it
     const bool isDirectory = (search.Entry().dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    entries.push_back({utf8Name, isDirectory});
+    if (!callback->OnEntry(utf8Name.c_str(), isDirectory)) return 0;
   } while (search.Next());
-  return ::GetLastError() == ERROR_NO_MORE_FILES;
+  return ::GetLastError() == ERROR_NO_MORE_FILES ? 0 : -1;
 }
-
-}  // namespace kx
 
 int KxMakeDir(const char* path, unsigned /*mode*/) {
   return ::CreateDirectoryW(kx::WidePath(path).c_str(), nullptr) != 0 ? 0 : -1;

@@ -24,12 +24,12 @@ class GrowingTable {
   /// An entry that was added with `hash` and satisfies `isIt(entry)`; null when there is none. Any
   /// thread, also while another adds.
   template <class IsIt>
-  const Entry* Find(std::uint64_t hash, const IsIt& isIt) const noexcept {
+  Entry* Find(std::uint64_t hash, const IsIt& isIt) const noexcept {
     const Table* const table = newest_.load(std::memory_order_acquire);
     if (table == nullptr) return nullptr;
     for (std::size_t at = hash & table->mask;; at = (at + 1) & table->mask) {
       const Slot& slot = table->slots[at];
-      const Entry* const entry = slot.entry.load(std::memory_order_acquire);
+      Entry* const entry = slot.entry.load(std::memory_order_acquire);
       if (entry == nullptr) return nullptr;
       if (slot.hash.load(std::memory_order_relaxed) == hash && isIt(entry)) return entry;
     }
@@ -40,7 +40,7 @@ class GrowingTable {
   void Reserve();
 
   /// @param entry  not null; must outlive the table, and what is read of it no longer changes
-  void Add(const Entry* entry, std::uint64_t hash) noexcept {
+  void Add(Entry* entry, std::uint64_t hash) noexcept {
     Put(*newest_.load(std::memory_order_relaxed), entry, hash);
     ++size_;
   }
@@ -50,7 +50,7 @@ class GrowingTable {
 
   struct Slot {
     std::atomic<std::uint64_t> hash;
-    std::atomic<const Entry*> entry;
+    std::atomic<Entry*> entry;
   };
   struct Table {
     std::size_t mask;
@@ -58,7 +58,7 @@ class GrowingTable {
     std::unique_ptr<Slot[]> slots;
   };
 
-  static void Put(Table& table, const Entry* entry, std::uint64_t hash) noexcept;
+  static void Put(Table& table, Entry* entry, std::uint64_t hash) noexcept;
 
   std::atomic<Table*> newest_ = nullptr;
   std::size_t size_ = 0;
@@ -81,14 +81,14 @@ void GrowingTable<Entry>::Reserve() {
   std::unique_ptr<Table> table(new Table{slots - 1, old, std::make_unique<Slot[]>(slots)});
   for (std::size_t at = 0; old != nullptr && at <= old->mask; ++at) {
     const Slot& slot = old->slots[at];
-    const Entry* const entry = slot.entry.load(std::memory_order_relaxed);
+    Entry* const entry = slot.entry.load(std::memory_order_relaxed);
     if (entry != nullptr) Put(*table, entry, slot.hash.load(std::memory_order_relaxed));
   }
   newest_.store(table.release(), std::memory_order_release);
 }
 
 template <class Entry>
-void GrowingTable<Entry>::Put(Table& table, const Entry* entry, std::uint64_t hash) noexcept {
+void GrowingTable<Entry>::Put(Table& table, Entry* entry, std::uint64_t hash) noexcept {
   std::size_t at = hash & table.mask;
   while (table.slots[at].entry.load(std::memory_order_relaxed) != nullptr)
     at = (at + 1) & table.mask;

@@ -30,7 +30,7 @@ class NotedKeys {
   void Note(const char* prepared, std::uint64_t hash) noexcept { keys_.Add(prepared, hash); }
 
  private:
-  GrowingTable<char> keys_;
+  GrowingTable<const char> keys_;
   TextArena texts_;
 };
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,8 +22,21 @@ class BundleOfFiles : public testing::Test {
 
   void Add(const std::vector<std::string>& locales) {
     for (const std::string& locale : locales) {
-      bundle_.AddFile(locale, locale.empty() ? "msg" : "msg_" + locale);
+      AddFile(locale, locale.empty() ? "msg" : "msg_" + locale);
     }
+  }
+
+  void AddFile(const std::string& locale, const std::string& path) {
+    bundle_.AddFile(Keep(locale, path));
+  }
+
+  /// A file that is kept until the test ends.
+  bnd::ListedFile& Keep(const std::string& locale, const std::string& path) {
+    const auto size = [](const std::string& text) {
+      return static_cast<std::uint32_t>(text.size());
+    };
+    texts_.push_back(path + locale);
+    return files_.emplace_back(bnd::ListedFile{texts_.back().data(), size(path), size(locale)});
   }
 
   Entry* Known(std::string_view locale) { return bundle_.Resolve(locale, false); }
@@ -34,6 +49,8 @@ class BundleOfFiles : public testing::Test {
     return entry == nullptr ? "(nothing)" : entry->GetFile()->Path();
   }
 
+  std::list<std::string> texts_;  // of the files
+  std::list<bnd::ListedFile> files_;
   bnd::Bundle<FakeTranslator> bundle_{"msg"};
 };
 

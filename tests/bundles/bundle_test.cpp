@@ -52,10 +52,10 @@ TEST_F(Bundle, LocaleIsFoundInAnyAsciiCase) {
 }
 
 TEST_F(Bundle, FirstFileOfALocaleWins) {
-  bundle_.AddFile("FR", "first");
-  bundle_.AddFile("fr", "second");
-  bundle_.AddFile("", "first default");
-  bundle_.AddFile("", "second default");
+  AddFile("FR", "first");
+  AddFile("fr", "second");
+  AddFile("", "first default");
+  AddFile("", "second default");
 
   EXPECT_EQ("first", PathOf(Known("fr")));
   EXPECT_EQ("FR", Known("fr")->Locale());
@@ -77,8 +77,8 @@ TEST_F(Bundle, FileWithUnderscoresIsKnownWithHyphensToo) {
 }
 
 TEST_F(Bundle, AliasTakesNoPlaceOfAFile) {
-  bundle_.AddFile("fr-CA", "hyphen");
-  bundle_.AddFile("fr_CA", "underscore");
+  AddFile("fr-CA", "hyphen");
+  AddFile("fr_CA", "underscore");
 
   EXPECT_TRUE(Known("fr-CA")->IsFile());
   EXPECT_EQ("hyphen", PathOf(Known("fr-CA")));
@@ -86,8 +86,8 @@ TEST_F(Bundle, AliasTakesNoPlaceOfAFile) {
 }
 
 TEST_F(Bundle, FileTakesNoPlaceOfAnAlias) {
-  bundle_.AddFile("fr_CA", "underscore");
-  bundle_.AddFile("FR-ca", "hyphen");
+  AddFile("fr_CA", "underscore");
+  AddFile("FR-ca", "hyphen");
 
   EXPECT_EQ("underscore", PathOf(Known("fr-CA")));
   EXPECT_FALSE(Known("fr-CA")->IsFile());
@@ -95,9 +95,9 @@ TEST_F(Bundle, FileTakesNoPlaceOfAnAlias) {
 }
 
 TEST_F(Bundle, FileThatCameTooLateAddsNoAlias) {
-  bundle_.AddFile("fr_ca_x", "first");
+  AddFile("fr_ca_x", "first");
   const Entry* const alias = Known("fr-CA-X");
-  bundle_.AddFile("FR_CA_X", "second");
+  AddFile("FR_CA_X", "second");
 
   EXPECT_EQ(alias, Known("fr-CA-X"));
   EXPECT_EQ("fr-ca-x", alias->Locale());

@@ -29,8 +29,8 @@ class BundleAllocationFailure : public testing::Test {
     tree_.Write("agent_fr.properties", bytes);
     tree_.Write("other_fr.properties", "K=other\n");
     XlateManager manager(tree_.Path());
-    manager.AddBundleFile(tree_.Path(), "agent_fr.properties", "agent", "fr");
-    manager.AddBundleFile(tree_.Path(), "other_fr.properties", "other", "fr");
+    manager.AddBundleFile("agent_fr.properties", "agent", "fr");
+    manager.AddBundleFile("other_fr.properties", "other", "fr");
     manager.CompleteDefaults();
     const Held other(kx::GetPropertiesBundle(&manager, "other", "fr-CA"));
 

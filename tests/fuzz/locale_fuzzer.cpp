@@ -17,8 +17,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Require((parts == 0) == locale.empty());
 
   bnd::Bundle<CKxXlate> bundle("fuzz");
-  bundle.AddFile("", "/fuzz.properties");
-  bundle.AddFile("fr_CA", "/fuzz_fr_CA.properties");
+  bnd::ListedFile files[] = {{"/fuzz", 5, 0}, {"/fuzz_fr_CAfr_CA", 11, 5}};
+  for (bnd::ListedFile& file : files) bundle.AddFile(file);
   auto* first = bundle.Resolve(locale, true);
   auto* second = bundle.Resolve(locale, true);
   Require(first != nullptr && first->GetFile() == second->GetFile());

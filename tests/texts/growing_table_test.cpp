@@ -32,7 +32,7 @@ class Numbers {
  private:
   std::uint64_t (*hash_)(int);
   std::deque<Entry> entries_;
-  kx::GrowingTable<Entry> table_;
+  kx::GrowingTable<const Entry> table_;
 };
 
 std::uint64_t Scattered(int number) {
@@ -74,7 +74,7 @@ TEST(GrowingTable, EntriesStayWhereTheyAre) {
 }
 
 TEST(GrowingTable, MayHaveRoomForNothing) {
-  kx::GrowingTable<Entry> table;
+  kx::GrowingTable<const Entry> table;
   table.Reserve();
   table.Reserve();
   EXPECT_EQ(nullptr, table.Find(0, [](const Entry*) { return true; }));
