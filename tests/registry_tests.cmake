@@ -14,6 +14,7 @@ kxxlate_unit_test(bundle_registry_test
   bundles/properties_translator.h
   bundles/properties_xlate_copy_test.cpp
   bundles/properties_xlate_test.cpp
+  bundles/remembered_requests_test.cpp
   bundles/request_digest_test.cpp
   bundles/resolved_translators_test.cpp
   bundles/split_locale_test.cpp

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "bundles/bundle_of_files.h"
 #include "support/failing_new.h"
@@ -28,7 +29,11 @@ class BundleShortage : public BundleOfFiles {
       ASSERT_NE(nullptr, bundle.Resolve(locale, false));
       EXPECT_EQ(locale, bundle.Resolve(locale, false)->Locale());
     }
-    EXPECT_FALSE(bundle.Resolve("fr-CA", false)->IsFile());
+    for (const auto& [alias, locale] :
+         {std::pair{"fr-CA", "fr_CA"}, {"zh-Hant-TW", "zh_Hant_TW"}}) {
+      EXPECT_FALSE(bundle.Resolve(alias, false)->IsFile());
+      EXPECT_EQ(bundle.Resolve(locale, false), bundle.Resolve(alias, false)->GetFile());
+    }
     EXPECT_TRUE(bundle.Resolve("", false)->IsDefault());
     EXPECT_EQ(bundle.Resolve("en", false), bundle.Resolve("", false)->GetFile());
   }
