@@ -65,7 +65,7 @@ TEST_F(PropertyLookup, RequestIsRememberedWholeOrNotAtAllThoughMemoryFails) {
     const int failures =
         FailEachAllocation([&] { resolved.Remember("msg", locale, *texts); },
                            [&] { EXPECT_EQ(nullptr, resolved.Find("msg", locale)); });
-    EXPECT_GT(failures, 2);
+    EXPECT_GT(failures, 0);
     EXPECT_EQ(texts, resolved.Find("msg", locale));
   }
   texts->Release();
