@@ -19,7 +19,7 @@ class ResultText {
   /// Bytes that may be written behind those that Reserve promised: a block need not be cut to fit.
   static constexpr std::size_t kSlack = 16;
 
-  // Not for the bytes in place: they are written before they are read.
+  /// Leaves the bytes in place as they are: they are written before they are read.
   ResultText() noexcept : begin_(inPlace_), at_(begin_), end_(begin_ + kBytesInPlace) {}
   ResultText(const ResultText&) = delete;
   ResultText& operator=(const ResultText&) = delete;
@@ -35,7 +35,8 @@ class ResultText {
   }
   void EndAt(char* end) noexcept { at_ = end; }
 
-  /// The text must not lie in this one.
+  /// The text must not lie in this one. Short ones are copied here: a call for each value took a
+  /// twelfth of the time of a message.
   void Append(std::string_view text) {
     char* const to = Reserve(text.size());
     const char* const from = text.data();
@@ -77,6 +78,7 @@ class ResultText {
   void Cut(std::size_t size) noexcept { at_ = begin_ + std::min(size, Size()); }
 
  private:
+  /// Copies a text that is once or twice as long as kBytes, or between that.
   template <std::size_t kBytes>
   static void CopyEnds(char* to, const char* from, std::size_t size) {
     char first[kBytes];
@@ -86,6 +88,7 @@ class ResultText {
     std::memcpy(to, first, kBytes);
     std::memcpy(to + size - kBytes, last, kBytes);
   }
+
   void Grow(std::size_t size);
 
   char inPlace_[kBytesInPlace + kSlack];

@@ -74,6 +74,12 @@ TEST(InsertVariableVAOrder, AnIntegerIsReadWholeForALongerConversionBehind) {
   EXPECT_EQ("7 9abcdef0 123456789abcdef0", Inserted("%d:2 %x:1 %llx:1", value, 7));
 }
 
+TEST(InsertVariableVAOrder, AnArgumentPassedOverIsReadAsItsFirstConversionSays) {
+  constexpr std::uint64_t kBits = 0x4004000000000000;  // of 2.5
+  EXPECT_EQ("x 2.500000 4004000000000000", Inserted("%s:2 %f:1 %llx:1", 2.5, "x"));
+  EXPECT_EQ("x 4004000000000000 2.500000", Inserted("%s:2 %llx:1 %f:1", kBits, "x"));
+}
+
 TEST(InsertVariableVAOrder, APieceWithoutAConversionLeavesItsValueToOthers) {
   EXPECT_EQ("% o 7 text", Inserted("%% o %d:1 %s", 7, "text"));
   EXPECT_EQ("% o text 7", Inserted("%% o %s %d:1", 7, "text"));

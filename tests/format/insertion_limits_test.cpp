@@ -81,6 +81,10 @@ TEST_P(InsertionAround, TheLimitAllocatesNothingBelow) {
   }
 }
 
+TEST_P(InsertionAround, AUsualLengthAllocatesNothing) {
+  EXPECT_EQ(Expected(255), ResultOfSize(255, 0));
+}
+
 TEST_P(InsertionAround, TheLimitAllocatesBeyond) {
   EXPECT_THROW(ResultOfSize(kLimit + 1, 0), std::bad_alloc);
 }
