@@ -49,33 +49,35 @@ class Reader {
   const char* const end_;
 };
 
-void TakeFlags(Reader& reader, Conversion& conversion) {
-  for (;; reader.Skip(1)) {
+/// Answers whether there are any.
+bool TakeFlags(Reader& reader, Conversion& conversion) {
+  for (bool hasFlags = false;; hasFlags = true, reader.Skip(1)) {
     switch (reader.Peek()) {
       case '-': conversion.isLeft = true; break;
       case '+': conversion.hasPlus = true; break;
       case ' ': conversion.hasBlank = true; break;
       case '#': conversion.isOtherForm = true; break;
       case '0': conversion.hasZeros = true; break;
-      default: return;
+      default: return hasFlags;
     }
   }
 }
 
-/// Takes flags, width and precision.
-void TakeField(Reader& reader, ConversionGroup& group) {
-  TakeFlags(reader, group.conversion);
+/// Takes flags, width and precision; answers whether there are flags.
+bool TakeField(Reader& reader, ConversionGroup& group) {
+  const bool hasFlags = TakeFlags(reader, group.conversion);
   if (reader.Take("*")) {
     group.hasStar = true;
   } else {
     group.conversion.width = reader.TakeNumber(0);
   }
-  if (!reader.Take(".")) return;
+  if (!reader.Take(".")) return hasFlags;
   if (reader.Take("*")) {
     group.hasStar = true;
   } else {
     group.conversion.precision = reader.TakeNumber(0);
   }
+  return hasFlags;
 }
 
 Length TakeLength(Reader& reader) {
@@ -121,13 +123,12 @@ ConversionGroup ReadGroup(std::string_view text) {
   Conversion& conversion = group.conversion;
   Reader reader(text.substr(1));
   // All that may stand before a length sorts before the letters, and most conversions have none.
-  const bool hasField = reader.Peek() <= '9';
-  if (hasField) TakeField(reader, group);
+  const bool hasFlags = reader.Peek() <= '9' && TakeField(reader, group);
   conversion.length = TakeLength(reader);
   conversion.letter = reader.TakeByte();
   group.meaning = MeaningOf(conversion.letter, conversion.length);
   group.text = {text.data(), static_cast<std::size_t>(reader.Place() - text.data())};
-  if (hasField) DropIdleFlags(conversion);
+  if (hasFlags) DropIdleFlags(conversion);
   return group;
 }
 
