@@ -111,7 +111,10 @@ TEST_F(DecimalPoint, MayChangeBetweenTwoCalls) {
 }
 
 TEST_F(DecimalPoint, IsThatOfTheThread) {
-  const locale_t comma = newlocale(LC_NUMERIC_MASK, "comma", nullptr);
+  // Not by newlocale, which keeps for itself what it makes of LOCPATH.
+  ASSERT_NE(nullptr, std::setlocale(LC_NUMERIC, "comma"));
+  const locale_t comma = duplocale(LC_GLOBAL_LOCALE);
+  ASSERT_NE(nullptr, std::setlocale(LC_NUMERIC, "C"));
   ASSERT_NE(locale_t{}, comma);
   uselocale(comma);
   EXPECT_EQ("2,500000", OfInsertVariable(2.5));
