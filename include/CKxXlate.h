@@ -136,8 +136,8 @@ class KXXLATE_API CKxXlate {
   ///
   /// Any thread, at any time. A property file is read by the first call for it, while other callers
   /// of that file wait, and never again. The first call for a language, and the first after one of
-  /// its files changed, reads files while all other language lookups of the process wait; a
-  /// language already read costs up to four file-status calls.
+  /// its files changed, reads files while all other calls wait that have a language to read; a
+  /// language already read costs up to four file-status calls and waits for nobody.
   ///
   /// A language is read anew when a file that it was read from has vanished, or has another time of
   /// last change (to the finest unit that the system gives) or another size; a file that was not
