@@ -114,20 +114,21 @@ template <class Case>
   folded::Pair numbers;
   static_assert(sizeof numbers == sizeof seed);
   std::memcpy(&numbers, &seed, sizeof numbers);
-  const auto mix = [&numbers](folded::Bytes block) {
+  // By value, since what a reference refers to is kept in memory.
+  const auto mix = [](folded::Bytes block, folded::Pair by) {
     const auto folded = reinterpret_cast<folded::Pair>(Case::Fold(block));
-    const folded::Words words = folded::WordsOf(folded ^ numbers);
+    const folded::Words words = folded::WordsOf(folded ^ by);
     return Mix(words[0], words[1]);
   };
   // Keys of several sizes may have the same blocks.
   std::uint64_t hash = size * kOddFactor;
-  if (size < folded::kBlockBytes) return hash + mix(folded::LoadShort(bytes, size));
+  if (size < folded::kBlockBytes) return hash + mix(folded::LoadShort(bytes, size), numbers);
   const std::size_t last = size - folded::kBlockBytes;
   for (std::size_t at = 0; at < last; at += folded::kBlockBytes) {
-    hash += mix(folded::LoadBlock(bytes + at));
+    hash += mix(folded::LoadBlock(bytes + at), numbers);
     numbers += folded::Pair{kOddFactor, kOtherOddFactor};
   }
-  return hash + mix(folded::LoadBlock(bytes + last));
+  return hash + mix(folded::LoadBlock(bytes + last), numbers);
 }
 
 /// Whether `stored`, which ends with NUL and has kKeyPadding readable bytes behind that, is `key`,

@@ -2,6 +2,7 @@
 #define KX_TEXTS_GROWING_TABLE_H
 
 #include <atomic>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -10,9 +11,9 @@ namespace kx {
 
 /// Entries by their hashes. Find() takes no lock, though others add meanwhile.
 ///
-/// A slot is written once, under the owner's lock, its hash before its entry; when the table fills,
-/// a larger one is published, and the old one is kept, since somebody may still read it. All of
-/// them together are smaller than twice the last.
+/// A slot is written once, under the owner's lock; when the table fills, a larger one is published,
+/// and the old one is kept, since somebody may still read it. All of them together are smaller than
+/// twice the last.
 template <class Entry>
 class GrowingTable {
  public:
@@ -28,10 +29,11 @@ class GrowingTable {
     const Table* const table = newest_.load(std::memory_order_acquire);
     if (table == nullptr) return nullptr;
     for (std::size_t at = hash & table->mask;; at = (at + 1) & table->mask) {
-      const Slot& slot = table->slots[at];
-      Entry* const entry = slot.entry.load(std::memory_order_acquire);
-      if (entry == nullptr) return nullptr;
-      if (slot.hash.load(std::memory_order_relaxed) == hash && isIt(entry)) return entry;
+      const std::uint64_t slot = table->slots[at].load(std::memory_order_acquire);
+      if (slot == 0) return nullptr;
+      if (slot >> kEntryBits != hash >> kEntryBits) continue;
+      Entry* const entry = EntryOf(slot);
+      if (isIt(entry)) return entry;
     }
   }
 
@@ -39,8 +41,11 @@ class GrowingTable {
   /// std::bad_alloc, with the table as it was.
   void Reserve();
 
+  /// Leaves out an entry whose address is longer than a slot has room for.
+  ///
   /// @param entry  not null; must outlive the table, and what is read of it no longer changes
   void Add(Entry* entry, std::uint64_t hash) noexcept {
+    if (std::bit_cast<std::uint64_t>(entry) >> kEntryBits != 0) return;
     Put(*newest_.load(std::memory_order_relaxed), entry, hash);
     ++size_;
   }
@@ -48,15 +53,23 @@ class GrowingTable {
  private:
   static constexpr std::size_t kFewestSlots = 16;
 
-  struct Slot {
-    std::atomic<std::uint64_t> hash;
-    std::atomic<Entry*> entry;
-  };
+  // A slot is an address and the top of the hash above it, so that half as many lines of the cache
+  // are looked at. The addresses of a process have no more bits on the systems that this is for,
+  // unless it asks for larger ones.
+  static constexpr int kEntryBits = 48;
+  using Slot = std::atomic<std::uint64_t>;
+
   struct Table {
     std::size_t mask;
     Table* before;
     std::unique_ptr<Slot[]> slots;
+    std::unique_ptr<std::uint64_t[]> hashes;  ///< whole; under the owner's lock
   };
+
+  static Entry* EntryOf(std::uint64_t slot) noexcept {
+    constexpr int kTagBits = 64 - kEntryBits;
+    return std::bit_cast<Entry*>(slot << kTagBits >> kTagBits);
+  }
 
   static void Put(Table& table, Entry* entry, std::uint64_t hash) noexcept;
 
@@ -78,11 +91,11 @@ void GrowingTable<Entry>::Reserve() {
   // Half of the slots stay empty, so that a search ends soon.
   if (old != nullptr && size_ * 2 <= old->mask) return;
   const std::size_t slots = old == nullptr ? kFewestSlots : (old->mask + 1) * 2;
-  std::unique_ptr<Table> table(new Table{slots - 1, old, std::make_unique<Slot[]>(slots)});
+  std::unique_ptr<Table> table(new Table{slots - 1, old, std::make_unique<Slot[]>(slots),
+                                         std::make_unique<std::uint64_t[]>(slots)});
   for (std::size_t at = 0; old != nullptr && at <= old->mask; ++at) {
-    const Slot& slot = old->slots[at];
-    Entry* const entry = slot.entry.load(std::memory_order_relaxed);
-    if (entry != nullptr) Put(*table, entry, slot.hash.load(std::memory_order_relaxed));
+    const std::uint64_t slot = old->slots[at].load(std::memory_order_relaxed);
+    if (slot != 0) Put(*table, EntryOf(slot), old->hashes[at]);
   }
   newest_.store(table.release(), std::memory_order_release);
 }
@@ -90,11 +103,11 @@ void GrowingTable<Entry>::Reserve() {
 template <class Entry>
 void GrowingTable<Entry>::Put(Table& table, Entry* entry, std::uint64_t hash) noexcept {
   std::size_t at = hash & table.mask;
-  while (table.slots[at].entry.load(std::memory_order_relaxed) != nullptr)
-    at = (at + 1) & table.mask;
-  table.slots[at].hash.store(hash, std::memory_order_relaxed);
-  // Whoever sees the entry sees its hash and what it points to, too.
-  table.slots[at].entry.store(entry, std::memory_order_release);
+  while (table.slots[at].load(std::memory_order_relaxed) != 0) at = (at + 1) & table.mask;
+  table.hashes[at] = hash;
+  // Whoever sees the slot sees what it points to, too.
+  const std::uint64_t tag = hash >> kEntryBits << kEntryBits;
+  table.slots[at].store(tag | std::bit_cast<std::uint64_t>(entry), std::memory_order_release);
 }
 
 }  // namespace kx

@@ -12,11 +12,11 @@ namespace kx {
 /// What a table keeps of a hash: enough to find the key's bucket again in a table of another size.
 class KeyTag {
  public:
-  static constexpr int kBits = 31;
+  static constexpr int kBits = 30;
 
   explicit KeyTag(std::uint64_t hash) noexcept : bits_(hash >> (64 - kBits)) {}
   KeyTag(std::uint16_t low, std::uint16_t high) noexcept
-      : bits_(std::uint64_t{high} << kLowBits | (low & kLowMask)) {}
+      : bits_(static_cast<std::uint64_t>(high & kLowMask) << kLowBits | (low & kLowMask)) {}
 
   std::uint64_t Bits() const noexcept { return bits_; }
 
@@ -24,7 +24,7 @@ class KeyTag {
   std::uint16_t Low() const noexcept {
     return static_cast<std::uint16_t>(bits_ & kLowMask) | kInUse;
   }
-  /// The rest, by which the bucket is chosen.
+  /// The rest, in as many bits.
   std::uint16_t High() const noexcept { return static_cast<std::uint16_t>(bits_ >> kLowBits); }
 
  private:
@@ -54,6 +54,11 @@ class alignas(64) KeyBucket {
   static constexpr std::size_t kSlots = 6;
 
   bool IsFull() const noexcept { return low_[kSlots - 1] != 0; }
+
+  /// Whether a key that belongs here is in a bucket behind: of five that are full, two have none.
+  bool HasMore() const noexcept { return (high_[kSlots - 1] & kMore) != 0; }
+  /// Says so of a full bucket.
+  void SetHasMore() noexcept { high_[kSlots - 1] |= kMore; }
 
   std::size_t Size() const noexcept {
     std::size_t size = 0;
@@ -101,6 +106,7 @@ class alignas(64) KeyBucket {
   static constexpr int kUnusedBits = 16;
   static_assert(sizeof(const char*) == 8 && std::endian::native == std::endian::little);
 
+  static constexpr std::uint16_t kMore = 1 << 15;  ///< the bit that a tag's half does not take
   static constexpr std::size_t kLanes = 8;
   using Tags = std::uint16_t __attribute__((vector_size(kLanes * 2)));
   using Narrow = std::uint8_t __attribute__((vector_size(kLanes)));

@@ -39,7 +39,7 @@ std::size_t KeyBuckets::NextSize() const noexcept {
 
 void KeyBuckets::Put(const char* stored, KeyTag tag) noexcept {
   std::size_t at = Home(tag);
-  while (buckets_[at].IsFull()) at = Next(at);
+  for (; buckets_[at].IsFull(); at = Next(at)) buckets_[at].SetHasMore();
   buckets_[at].Set(buckets_[at].Size(), tag, stored);
 }
 

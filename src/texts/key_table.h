@@ -58,7 +58,7 @@ class KeyBuckets {
       const char* const place = bucket.Place(slots.First());
       if (isKey(place)) [[likely]]
         return place;
-    } else if (!bucket.IsFull()) {
+    } else if (!bucket.HasMore()) {
       return nullptr;
     }
     return FindFurther(tag, isKey);
@@ -81,7 +81,7 @@ class KeyBuckets {
         const char* const place = bucket.Place(slots.First());
         if (isKey(place)) return place;
       }
-      if (!bucket.IsFull()) return nullptr;
+      if (!bucket.HasMore()) return nullptr;
     }
   }
 

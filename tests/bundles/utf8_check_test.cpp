@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -193,6 +194,36 @@ TEST(Utf8CheckModel, AgreesOnRandomTexts) {
     accepted += expected ? 1 : 0;
   }
   EXPECT_GT(accepted, 1000U);  // the mix must hold both kinds
+}
+
+TEST(Utf8CheckModel, AgreesOnSentencesInWhichOneByteIsChanged) {
+  const std::vector<std::string> letters = {"a",
+                                            " ",
+                                            "\xC3\xA9",
+                                            "\xDF\xBF",
+                                            "\xE0\xA0\x80",
+                                            "\xE2\x82\xAC",
+                                            "\xEF\xBF\xBF",
+                                            "\xF0\x90\x80\x80",
+                                            "\xF7\xBF\xBF\xBF",
+                                            "\xF8\x88\x80\x80\x80"};
+  std::mt19937 random(20);
+  std::size_t accepted = 0;
+  constexpr int kRounds = 100000;
+  for (int round = 0; round < kRounds; ++round) {
+    std::string text;
+    // Of a few kinds each, so that most have no sequence of five bytes.
+    const std::size_t kinds = 1 + random() % letters.size();
+    const std::size_t size = random() % 80;
+    while (text.size() < size) text += letters[random() % kinds];
+    ASSERT_TRUE(kx::IsWellFormedUtf8(text)) << testing::PrintToString(text);
+    if (!text.empty()) text[random() % text.size()] = static_cast<char>(random() % 256);
+    const bool expected = IsWellFormedInTheModel(text);
+    ASSERT_EQ(expected, kx::IsWellFormedUtf8(text)) << testing::PrintToString(text);
+    accepted += expected ? 1 : 0;
+  }
+  EXPECT_GT(accepted, kRounds / 10U);
+  EXPECT_LT(accepted, kRounds - kRounds / 10U);
 }
 
 }  // namespace
