@@ -10,15 +10,17 @@
 namespace kx {
 namespace {
 
+constexpr std::size_t kPointerBytes = sizeof(void*);
+
 CRealKxXlate* TranslatorBefore(const char* key) noexcept {
   CRealKxXlate* translator;
-  std::memcpy(&translator, key - sizeof translator, sizeof translator);
+  std::memcpy(&translator, key - kPointerBytes, kPointerBytes);
   return translator;
 }
 
 /// @param key  in memory of the cache's own
 void SetTranslatorBefore(const char* key, CRealKxXlate* translator) noexcept {
-  std::memcpy(const_cast<char*>(key) - sizeof translator, &translator, sizeof translator);
+  std::memcpy(const_cast<char*>(key) - kPointerBytes, &translator, kPointerBytes);
 }
 
 }  // namespace
@@ -69,7 +71,7 @@ CRealKxXlate* CachedTranslators::Exchange(Entries& entries, std::string_view key
   }
   // Room first, so that nothing fails behind the table's back.
   if (entries.all.size() == entries.all.capacity()) entries.all.reserve(entries.all.size() * 2 + 1);
-  char* const stored = entries.texts.Take(sizeof translator + key.size() + 1) + sizeof translator;
+  char* const stored = entries.texts.Take(kPointerBytes + key.size() + 1) + kPointerBytes;
   PutText(stored, key);
   SetTranslatorBefore(stored, translator);
   entries.keys.Add(stored, hash);

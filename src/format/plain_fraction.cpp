@@ -62,7 +62,9 @@ void Round(Parts& parts, std::uint64_t power) {
 /// @param point  '\0' for none, and no decimals
 void AppendDigits(ResultText& result, const Parts& parts, int decimals, char point) {
   const int digits = CountDigits(parts.whole);
-  char* end = result.Reserve(static_cast<std::size_t>(digits + 1 + decimals)) + digits;
+  char* end =
+      result.Reserve(static_cast<std::size_t>(digits) + 1 + static_cast<std::size_t>(decimals)) +
+      digits;
   WriteDigits(end, parts.whole, digits);
   if (point != '\0') {
     *end = point;

@@ -79,8 +79,9 @@ class alignas(64) KeyBucket {
 
   const char* Place(std::size_t slot) const noexcept {
     std::uint64_t place;
-    // With the two bytes behind it, which are shifted out.
-    std::memcpy(&place, places_.data() + slot * kPlaceBytes, sizeof place);
+    // With the two bytes behind it in the bucket, which are shifted out.
+    const char* const bucket = reinterpret_cast<const char*>(this);
+    std::memcpy(&place, bucket + slot * kPlaceBytes, sizeof place);
     return std::bit_cast<const char*>(place << kUnusedBits >> kUnusedBits);
   }
 
