@@ -24,6 +24,15 @@ void AppendLangFileName(std::string& path, const LangFile& file) {
   path += kExtension;
 }
 
+std::string LangFilePath(const LanguageContext& context, const LangFile& file) {
+  std::string path;
+  path.reserve(context.paths.directory.size() + file.language.size() + file.country.size() +
+               file.name.size() + kMostOfTheRest);
+  path = context.paths.directory;
+  AppendLangFileName(path, file);
+  return path;
+}
+
 /// Whether the candidate may be looked for: its language, region and name may come from a
 /// stranger's request.
 bool IsWithin(const std::string& directory, const LangFile& file, const std::string& path) {
@@ -42,15 +51,6 @@ std::string LangFileName(const std::string& language, const std::string& country
   std::string relative;
   AppendLangFileName(relative, {language, country, name});
   return relative;
-}
-
-std::string LangFilePath(const LanguageContext& context, const LangFile& file) {
-  std::string path;
-  path.reserve(context.paths.directory.size() + file.language.size() + file.country.size() +
-               file.name.size() + kMostOfTheRest);
-  path = context.paths.directory;
-  AppendLangFileName(path, file);
-  return path;
 }
 
 bool StaysInDirectory(std::string_view part) {

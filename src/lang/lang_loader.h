@@ -44,9 +44,6 @@ struct LangFile {
   const std::string& name;
 };
 
-/// Where that file lies.
-std::string LangFilePath(const LanguageContext& context, const LangFile& file);
-
 /// Whether a language, region or component's name can be a part of a path without leading anywhere
 /// but below the directory that it is joined to: see KxIsPlainComponent. "/" and "\" both separate
 /// its components.

@@ -66,7 +66,7 @@ void SetDefaults(LanguageContents& contents) {
 }
 
 std::shared_ptr<const SharedLanguage> ReadOwnFiles(const LanguageContext& context,
-                                                   Sources& sources) {
+                                                   const LanguageNames& names, Sources& sources) {
   const auto read = std::make_shared<SharedLanguage>();
   LogSink log(context);
   NotingSink problems(log, read->problems);
@@ -76,7 +76,9 @@ std::shared_ptr<const SharedLanguage> ReadOwnFiles(const LanguageContext& contex
     *file++ = {source->Candidate(), source->IsWithin(), source->Seen()};
   }
   SetDefaults(read->contents);
-  if (context.shared != nullptr && !sources.IsAnyUnsettled()) context.shared->Remember(read);
+  if (context.shared != nullptr && !sources.IsAnyUnsettled()) {
+    context.shared->Remember({names.languageCode, names.name}, read);
+  }
   return read;
 }
 
@@ -89,17 +91,15 @@ void Share(const std::shared_ptr<const SharedLanguage>& language, LoadedLanguage
 
 void LoadOwnFiles(const LanguageContext& context, const LanguageNames& names,
                   LoadedLanguage& loaded) {
-  const std::string none;
   if (context.shared != nullptr) {
-    const LangFile named = {names.languageCode, none, names.name};
-    if (auto shared = context.shared->FindUnchanged(LangFilePath(context, named))) {
+    if (auto shared = context.shared->FindUnchanged({names.languageCode, names.name})) {
       LogSink log(context);
       for (const std::string& line : shared->problems) log.Line(line);
       return Share(shared, loaded);
     }
   }
-  Sources sources(context, names, none);
-  if (sources.IsAnyOpen()) return Share(ReadOwnFiles(context, sources), loaded);
+  Sources sources(context, names, std::string());
+  if (sources.IsAnyOpen()) return Share(ReadOwnFiles(context, names, sources), loaded);
   auto candidate = loaded.candidates.begin();
   for (LangSource* const source : sources.All()) *candidate++ = source->TakeCandidate();
 }

@@ -14,9 +14,8 @@ bool IsUnchanged(const SharedLanguage::File& file) {
 
 }  // namespace
 
-std::shared_ptr<const SharedLanguage> SharedLanguages::FindUnchanged(
-    const std::string& path) const {
-  const auto found = languages_.find(path);
+std::shared_ptr<const SharedLanguage> SharedLanguages::FindUnchanged(const Key& key) const {
+  const auto found = languages_.find(key);
   if (found == languages_.end()) return nullptr;
   auto language = found->second.lock();
   if (language == nullptr) return nullptr;
@@ -24,8 +23,9 @@ std::shared_ptr<const SharedLanguage> SharedLanguages::FindUnchanged(
   return std::all_of(files.begin(), files.end(), IsUnchanged) ? language : nullptr;
 }
 
-void SharedLanguages::Remember(const std::shared_ptr<const SharedLanguage>& language) {
-  languages_[language->files.back().candidate.path] = language;
+void SharedLanguages::Remember(const Key& key,
+                               const std::shared_ptr<const SharedLanguage>& language) {
+  languages_[key] = language;
 }
 
 }  // namespace kx

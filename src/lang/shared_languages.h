@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "lang/lang_loader.h"
@@ -37,17 +38,21 @@ struct SharedLanguage {
 /// Not locked: used under CacheLock, as all loads are. Holds nothing alive.
 class SharedLanguages {
  public:
-  /// The language whose named file has this path; null when nobody has it, or when a look at the
-  /// disk shows that its files are not what they were: one has changed in any way, is new or gone.
-  std::shared_ptr<const SharedLanguage> FindUnchanged(const std::string& path) const;
+  /// A language's code and a component's name. Not the path of the named file: both may hold
+  /// separators, and then two languages with a common file each have a named file in common.
+  using Key = std::pair<std::string, std::string>;
+
+  /// The language of that key; null when nobody has it, or when a look at the disk shows that its
+  /// files are not what they were: one has changed in any way, is new or gone.
+  std::shared_ptr<const SharedLanguage> FindUnchanged(const Key& key) const;
 
   /// Remembers a language for as long as somebody has it.
-  void Remember(const std::shared_ptr<const SharedLanguage>& language);
+  void Remember(const Key& key, const std::shared_ptr<const SharedLanguage>& language);
 
   void Clear() { languages_.clear(); }
 
  private:
-  std::map<std::string, std::weak_ptr<const SharedLanguage>> languages_;
+  std::map<Key, std::weak_ptr<const SharedLanguage>> languages_;
 };
 
 }  // namespace kx

@@ -180,6 +180,20 @@ TEST_F(SharedRegion, OfANameThatLeadsElsewhereSharesTheCommonFile) {
   EXPECT_EQ(french->GetCharset(), canadian->GetCharset());
 }
 
+// Their named files are one file, and each has a common file of its own.
+TEST_F(SharedRegion, DoesNotShareWithALanguageOfWhichItsNamesBeginningIsAPart) {
+  Write("FR/(Common).lang", File("French"));
+  Write("FR/X/(Common).lang", File("of X"));
+  Write("FR/X/agent.lang", "Images /x\n");
+  const Held inFrench = Find("X/agent", "fr", nullptr);
+  const Held inX = Find("agent", "fr/x", nullptr);
+  EXPECT_STREQ("French", inFrench->GetText("K"));
+  EXPECT_STREQ("of X", inX->GetText("K"));
+  EXPECT_STREQ("French", Find("X/agent", "fr", "CA")->GetText("K"));
+  EXPECT_STREQ("of X", Find("agent", "fr/x", "CA")->GetText("K"));
+  EXPECT_STREQ("/x", inFrench->GetImageDirectory());
+}
+
 TEST_F(SharedRegion, WithoutANameReadsTheCommonFileTwiceForEach) {
   Write("FR/(Common).lang", "x\nName n\n");
   const std::string line = "Illegal Header Directive in FR/(Common).lang at line #1: x\n";
