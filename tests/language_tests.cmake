@@ -30,7 +30,8 @@ if(WIN32)
 else()
   target_sources(language_test PRIVATE
     core/language_cache_threads_posix_test.cpp
-    core/language_rollout_posix_test.cpp)
+    core/language_rollout_posix_test.cpp
+    core/shared_region_posix_test.cpp)
 endif()
 
 # Replaces operator new, so apart from all the others.

@@ -1,9 +1,8 @@
 #include "lang/language_load.h"
 
 #include <algorithm>
-#include <array>
 #include <memory>
-#include <optional>
+#include <utility>
 #include <vector>
 
 #include "lang/lang_problems.h"
@@ -26,27 +25,6 @@ std::string DisplayName(const std::string& languageCode, const char* country, co
   return displayName.append(" (").append(name).append(")");
 }
 
-/// The two files of a language, or of a language in a country.
-class Sources {
- public:
-  Sources(const LanguageContext& context, const LanguageNames& names, const std::string& country)
-      : common_(context, {names.languageCode, country, std::string()}),
-        named_(context, {names.languageCode, country, names.name}) {}
-
-  std::array<LangSource*, kOwnCandidates> All() { return {&common_, &named_}; }
-
-  bool IsAnyOpen() const { return common_.IsOpen() || named_.IsOpen(); }
-
-  /// Whether there is anything to read at a later request.
-  bool IsAnyUnsettled() const {
-    return common_.Candidate().isUnsettled || named_.Candidate().isUnsettled;
-  }
-
- private:
-  LangSource common_;
-  LangSource named_;
-};
-
 /// Notes what it passes on.
 class NotingSink final : public ProblemSink {
  public:
@@ -65,19 +43,23 @@ void SetDefaults(LanguageContents& contents) {
   if (contents.charset.empty()) contents.charset = kDefaultCharset;
 }
 
-std::shared_ptr<const SharedLanguage> ReadOwnFiles(const LanguageContext& context,
-                                                   const LanguageNames& names, Sources& sources) {
-  const auto read = std::make_shared<SharedLanguage>();
+/// Reads what is there of a language's own files, and records both. One file is open at a time: a
+/// host may have hardly any left to open. Null when none is there.
+std::shared_ptr<SharedLanguage> ReadOwnFiles(const LanguageContext& context,
+                                             const LanguageNames& names,
+                                             SharedLanguage::Files& files) {
+  std::shared_ptr<SharedLanguage> read;
   LogSink log(context);
-  NotingSink problems(log, read->problems);
-  auto file = read->files.begin();
-  for (LangSource* const source : sources.All()) {
-    if (source->IsOpen()) source->Read(context.strings, problems, read->contents);
-    *file++ = {source->Candidate(), source->IsWithin(), source->Seen()};
-  }
-  SetDefaults(read->contents);
-  if (context.shared != nullptr && !sources.IsAnyUnsettled()) {
-    context.shared->Remember({names.languageCode, names.name}, read);
+  const std::string none;
+  auto file = files.begin();
+  for (const std::string* const name : {&none, &names.name}) {
+    LangSource source(context, {names.languageCode, none, *name});
+    if (source.IsOpen()) {
+      if (read == nullptr) read = std::make_shared<SharedLanguage>();
+      NotingSink problems(log, read->problems);
+      source.Read(context.strings, problems, read->contents);
+    }
+    *file++ = {source.TakeCandidate(), source.IsWithin(), source.Seen()};
   }
   return read;
 }
@@ -98,43 +80,63 @@ void LoadOwnFiles(const LanguageContext& context, const LanguageNames& names,
       return Share(shared, loaded);
     }
   }
-  Sources sources(context, names, std::string());
-  if (sources.IsAnyOpen()) return Share(ReadOwnFiles(context, names, sources), loaded);
+  SharedLanguage::Files files;
+  if (const auto read = ReadOwnFiles(context, names, files)) {
+    SetDefaults(read->contents);
+    read->files = std::move(files);
+    const bool isSettled =
+        std::none_of(read->files.begin(), read->files.end(),
+                     [](const SharedLanguage::File& file) { return file.candidate.isUnsettled; });
+    if (context.shared != nullptr && isSettled) {
+      context.shared->Remember({names.languageCode, names.name}, read);
+    }
+    return Share(read, loaded);
+  }
   auto candidate = loaded.candidates.begin();
-  for (LangSource* const source : sources.All()) *candidate++ = source->TakeCandidate();
+  for (SharedLanguage::File& file : files) *candidate++ = std::move(file.candidate);
 }
 
 /// The language's own files and those of the region, merged.
-void LoadAllFiles(const LanguageContext& context, const LanguageNames& names, Sources& regional,
+void LoadAllFiles(const LanguageContext& context, const LanguageNames& names,
                   LoadedLanguage& loaded) {
   const auto contents = std::make_shared<LanguageContents>();
   const std::string none;
   auto candidate = loaded.candidates.begin();
   // Each later file overrides the ones before it, so the most specific comes last.
-  for (const std::string* const name : {&none, &names.name}) {
-    loaded.anyFileFound |=
-        LoadLangFile(context, {names.languageCode, none, *name}, *contents, *candidate++);
-  }
-  LogSink problems(context);
-  for (LangSource* const source : regional.All()) {
-    loaded.anyFileFound |= source->IsOpen();
-    if (source->IsOpen()) source->Read(context.strings, problems, *contents);
-    *candidate++ = source->TakeCandidate();
+  for (const std::string* const country : {&none, &names.countryCode}) {
+    for (const std::string* const name : {&none, &names.name}) {
+      LangCandidate& next = *candidate++;
+      // One that could not be opened a moment ago is not waited for twice.
+      if (next.isUnsettled) continue;
+      loaded.anyFileFound |=
+          LoadLangFile(context, {names.languageCode, *country, *name}, *contents, next);
+    }
   }
   SetDefaults(*contents);
   if (loaded.anyFileFound) loaded.contents = contents;
 }
 
+/// Looks for the region's own files, most of which are not there, and records them up to the first
+/// one that is there or may be found at a later request; false when there is none.
+bool IsAnythingRegional(const LanguageContext& context, const LanguageNames& names,
+                        LoadedLanguage& loaded) {
+  const std::string none;
+  auto candidate = loaded.candidates.begin() + kOwnCandidates;
+  for (const std::string* const name : {&none, &names.name}) {
+    LangSource source(context, {names.languageCode, names.countryCode, *name});
+    const bool isAny = source.IsOpen() || source.Candidate().isUnsettled;
+    *candidate++ = source.TakeCandidate();
+    if (isAny) return true;
+  }
+  return false;
+}
+
 void LoadFiles(const LanguageContext& context, const LanguageNames& names, LoadedLanguage& loaded) {
-  std::optional<Sources> regional;
-  if (!names.countryCode.empty()) regional.emplace(context, names, names.countryCode);
-  if (regional && (regional->IsAnyOpen() || regional->IsAnyUnsettled())) {
-    return LoadAllFiles(context, names, *regional, loaded);
+  const bool isRegion = !names.countryCode.empty();
+  if (isRegion && IsAnythingRegional(context, names, loaded)) {
+    return LoadAllFiles(context, names, loaded);
   }
   LoadOwnFiles(context, names, loaded);
-  if (!regional) return;
-  auto candidate = loaded.candidates.begin() + kOwnCandidates;
-  for (LangSource* const source : regional->All()) *candidate++ = source->TakeCandidate();
 }
 
 }  // namespace

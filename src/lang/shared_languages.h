@@ -25,7 +25,9 @@ struct SharedLanguage {
     KxFileStatus seen;      ///< of whatever had its name when it was looked for
   };
 
-  std::array<File, kOwnCandidates> files;
+  using Files = std::array<File, kOwnCandidates>;
+
+  Files files;
   /// The lines that their problems gave. Each translator reports what it was read from, whether or
   /// not it was read for another before.
   std::vector<std::string> problems;
