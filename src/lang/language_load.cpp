@@ -25,12 +25,15 @@ std::string DisplayName(const std::string& languageCode, const char* country, co
   return displayName.append(" (").append(name).append(")");
 }
 
-/// Notes what it passes on.
+// A file with more is no catalogue, and is read for each region: its lines are not kept.
+constexpr std::size_t kMostSharedProblems = 1000;
+
+/// Notes what it passes on, up to one line more than are shared.
 class NotingSink final : public ProblemSink {
  public:
   NotingSink(ProblemSink& next, std::vector<std::string>& noted) : next_(next), noted_(noted) {}
   void Line(const std::string& text) override {
-    noted_.push_back(text);
+    if (noted_.size() <= kMostSharedProblems) noted_.push_back(text);
     next_.Line(text);
   }
 
@@ -87,7 +90,9 @@ void LoadOwnFiles(const LanguageContext& context, const LanguageNames& names,
     const bool isSettled =
         std::none_of(read->files.begin(), read->files.end(),
                      [](const SharedLanguage::File& file) { return file.candidate.isUnsettled; });
-    if (context.shared != nullptr && isSettled) {
+    if (read->problems.size() > kMostSharedProblems) {
+      read->problems = {};
+    } else if (context.shared != nullptr && isSettled) {
       context.shared->Remember({names.languageCode, names.name}, read);
     }
     return Share(read, loaded);

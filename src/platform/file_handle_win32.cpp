@@ -72,7 +72,12 @@ OpenedFile OpenRegularFile(const char* path, KxFileStatus* status) {
   const bool isKnown = status == nullptr || KxStat(path, status) == 0;
   const OpenedFile opened = Open(path, GENERIC_READ, OPEN_EXISTING);
   if (opened.file == kNoFile) return opened;
-  if (!isKnown) KxStat(path, status);
+  try {
+    if (!isKnown) KxStat(path, status);
+  } catch (...) {  // no memory for the path
+    CloseFile(opened.file);
+    throw;
+  }
   // A device or a pipe can still be reached, by a name that only the system uses.
   if (::GetFileType(Handle(opened.file)) == FILE_TYPE_DISK) return opened;
   ::CloseHandle(Handle(opened.file));

@@ -70,6 +70,16 @@ TEST_F(LanguageBytes, OfARegionWithoutFilesAreAtMost2048) {
   EXPECT_LE(LiveBytes() - before, 145L * 2000 + 2048L * kRegions);
 }
 
+TEST_F(LanguageBytes, OfALanguageDoNotGrowWithTheProblemsOfItsFiles) {
+  std::string broken = "Name n\n\n";
+  for (int line = 0; line < 20'000; ++line) broken += "no clause of any kind\n";
+  Write("IT/agent.lang", broken);
+  const long before = LiveBytes();
+  const Held italian = Find("agent", "it", nullptr);
+  EXPECT_STREQ("n", italian->GetLongName());
+  EXPECT_LE(LiveBytes() - before, 64 * 1024);
+}
+
 TEST_F(LanguageBytes, OfAnAbsentLanguageAreNone) {
   Find("agent", "xy", "ZZ");
   const long before = LiveBytes();

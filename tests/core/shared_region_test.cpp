@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -78,6 +79,22 @@ TEST_F(SharedRegion, ReportsTheProblemsOfTheFilesAsIfItHadReadThem) {
   EXPECT_EQ(lines + lines, Log());
   Canadian();
   EXPECT_EQ(lines + lines, Log());
+}
+
+TEST_F(SharedRegion, ReportsAllProblemsHoweverManyThereAre) {
+  std::string before;
+  for (const int count : {1000, 1001}) {
+    const std::string name = "agent" + std::to_string(count);
+    std::string file = "Name n\n\n";
+    for (int line = 0; line < count; ++line) file += "odd\n";
+    Write("FR/" + name + ".lang", file);
+    Find(name.c_str(), "fr", nullptr);
+    const std::string ofLanguage = Log().substr(before.size());
+    EXPECT_EQ(count, std::count(ofLanguage.begin(), ofLanguage.end(), '\n'));
+    Find(name.c_str(), "fr", "CA");
+    before += ofLanguage + ofLanguage;
+    EXPECT_EQ(before, Log());
+  }
 }
 
 TEST_F(SharedRegion, WithAFileOfItsOwnIsMergedAsEver) {
