@@ -25,7 +25,7 @@ rm -rf "$TAVI_XLATE_ROOT/log"
 echo "Measuring; all that is measured goes to build/bench/results.txt."
 # Repetitions of all benchmarks are mixed, so that what disturbs the machine disturbs all alike.
 build/bench/bench/kxxlate_bench --benchmark_filter="$filter" --benchmark_min_time=0.05 \
-  --benchmark_repetitions=5 --benchmark_enable_random_interleaving=true \
+  --benchmark_repetitions=9 --benchmark_enable_random_interleaving=true \
   --benchmark_out=build/bench/results.json --benchmark_out_format=json \
   ${options[@]+"${options[@]}"} >build/bench/results.txt 2>build/bench/errors.txt ||
   { cat build/bench/errors.txt; exit 1; }
