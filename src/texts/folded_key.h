@@ -142,6 +142,9 @@ template <class Case>
                Case::Difference(folded::LoadShort(stored, size), folded::LoadShort(bytes, size))) &&
            stored[size] == '\0';
   }
+  const auto bitsAt = [stored, bytes](std::size_t at) {
+    return folded::LoadBlock(stored + at) ^ folded::LoadBlock(bytes + at);
+  };
   const auto differenceAt = [stored, bytes](std::size_t at) {
     return Case::Difference(folded::LoadBlock(stored + at), folded::LoadBlock(bytes + at));
   };
@@ -149,7 +152,12 @@ template <class Case>
   // one: both blocks are one question.
   const std::size_t last = size - folded::kBlockBytes;
   const std::size_t second = std::min(last, folded::kBlockBytes);
-  if (!folded::IsNothing(differenceAt(0) | differenceAt(second))) return false;
+  // And nearly every host spells its keys as the file does: to ask first whether there is any
+  // difference at all takes a fifth from a hit, and adds nothing that could be measured to others.
+  if (!folded::IsNothing(bitsAt(0) | bitsAt(second)) &&
+      !folded::IsNothing(differenceAt(0) | differenceAt(second))) {
+    return false;
+  }
   // A stored key that is shorter differs by its NUL in the block in which it ends, and nothing
   // behind that block is read.
   for (std::size_t at = 2 * folded::kBlockBytes; at < size; at += folded::kBlockBytes) {
