@@ -14,5 +14,6 @@ kxxlate_unit_test(lang_reader_test
   lang/lang_file_reader_cases.h
   lang/lang_file_reader_test.cpp
   lang/lang_problems_test.cpp
+  lang/language_table_test.cpp
   lang/lang_reading.h
   platform/utf8_upper_test.cpp)

@@ -24,6 +24,7 @@ kxxlate_unit_test(texts_test
   texts/line_reader_test.cpp
   texts/measured_text_test.cpp
   texts/noted_keys_test.cpp
+  texts/short_pointer_test.cpp
   texts/table_growth_test.cpp
   support/failing_new.cpp)
 

@@ -35,7 +35,7 @@ class InternTable {
 
  private:
   TextArena texts_;
-  ExactKeyTable strings_;
+  ExactKeyTable strings_{TableFill::kForMemory};
 };
 
 /// The table of this process. Lives in core/process_state.cpp.

@@ -2,12 +2,12 @@
 #define KX_LANG_LANGUAGE_CONTENTS_H
 
 #include <cstdint>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "texts/key_table.h"
+#include "texts/short_pointer.h"
 #include "texts/text_arena.h"
 
 namespace kx {
@@ -22,7 +22,7 @@ class LanguageTable {
   /// The value of `key`, which holds no NUL, or null. Allocates nothing.
   const char* Find(std::string_view key, std::uint64_t hash) const noexcept {
     const char* const stored = keys_.Find(key, hash);
-    return stored == nullptr ? nullptr : ValueBefore(stored);
+    return stored == nullptr ? nullptr : LoadShortPointerBefore(stored);
   }
   const char* Find(std::string_view key) const noexcept { return Find(key, Hash(key)); }
 
@@ -36,13 +36,6 @@ class LanguageTable {
   void Expect(std::size_t count) noexcept { keys_.Expect(count); }
 
  private:
-  /// On any address: the pointer stands where the text before it ends.
-  static const char* ValueBefore(const char* key) noexcept {
-    const char* value;
-    std::memcpy(&value, key - sizeof value, sizeof value);
-    return value;
-  }
-
   TextArena texts_;
   KeyTable keys_;
 };

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "texts/short_pointer.h"
+
 namespace kx {
 
 /// What a table keeps of a hash: enough to find the key's bucket again in a table of another size.
@@ -78,15 +80,11 @@ class alignas(64) KeyBucket {
   KeyTag Tag(std::size_t slot) const noexcept { return {low_[slot], high_[slot]}; }
 
   const char* Place(std::size_t slot) const noexcept {
-    std::uint64_t place;
-    // With the two bytes behind it in the bucket, which are shifted out.
-    const char* const bucket = reinterpret_cast<const char*>(this);
-    std::memcpy(&place, bucket + slot * kPlaceBytes, sizeof place);
-    return std::bit_cast<const char*>(place << kUnusedBits >> kUnusedBits);
+    return LoadShortPointerAt(reinterpret_cast<const char*>(this) + slot * kShortPointerBytes);
   }
 
   void SetPlace(std::size_t slot, const char* place) noexcept {
-    std::memcpy(places_.data() + slot * kPlaceBytes, &place, kPlaceBytes);
+    StoreShortPointer(places_.data() + slot * kShortPointerBytes, place);
   }
 
   void Set(std::size_t slot, KeyTag tag, const char* place) noexcept {
@@ -95,24 +93,13 @@ class alignas(64) KeyBucket {
     SetPlace(slot, place);
   }
 
-  /// Whether a bucket can hold this place.
-  static bool CanHold(const char* place) noexcept {
-    return reinterpret_cast<std::uintptr_t>(place) >> (64 - kUnusedBits) == 0;
-  }
-
  private:
-  // The addresses of a process have no more than 47 bits on the systems that this is for, unless it
-  // asks for larger ones.
-  static constexpr std::size_t kPlaceBytes = 6;
-  static constexpr int kUnusedBits = 16;
-  static_assert(sizeof(const char*) == 8 && std::endian::native == std::endian::little);
-
   static constexpr std::uint16_t kMore = 1 << 15;  ///< the bit that a tag's half does not take
   static constexpr std::size_t kLanes = 8;
   using Tags = std::uint16_t __attribute__((vector_size(kLanes * 2)));
   using Narrow = std::uint8_t __attribute__((vector_size(kLanes)));
 
-  std::array<char, kSlots * kPlaceBytes> places_{};
+  std::array<char, kSlots * kShortPointerBytes> places_{};
   std::array<std::uint16_t, kLanes> low_{};
   std::array<std::uint16_t, kSlots> high_{};
 };

@@ -7,9 +7,6 @@
 namespace kx {
 namespace {
 
-// Two slots in three hold a key. Fuller tables have more keys that their bucket had no room for.
-constexpr std::size_t kKeysOfBucket = 4;
-
 constexpr std::size_t kMostBuckets = std::size_t{1} << KeyTag::kBits;
 
 }  // namespace
@@ -24,7 +21,7 @@ void KeyBuckets::Move(const char* from, std::uint64_t hash, const char* to) noex
 }
 
 void KeyBuckets::Add(const char* stored, std::uint64_t hash) {
-  if (!KeyBucket::CanHold(stored)) throw std::bad_alloc();
+  if (!IsShortPointer(stored)) throw std::bad_alloc();
   if (size_ == most_) Resize(NextSize());
   Put(stored, KeyTag(hash));
   ++size_;
@@ -33,8 +30,8 @@ void KeyBuckets::Add(const char* stored, std::uint64_t hash) {
 std::size_t KeyBuckets::NextSize() const noexcept {
   constexpr std::size_t kMostTimes = 8;
   if (expected_ <= size_) return size_ + size_ / 2;
-  // One in 32 more, or a table would grow for the few keys that were not foreseen.
-  return std::min(expected_ + expected_ / 32, size_ * kMostTimes);
+  // One in 16 more, or a table would grow for the few keys that were not foreseen.
+  return std::min(expected_ + expected_ / 16, size_ * kMostTimes);
 }
 
 void KeyBuckets::Put(const char* stored, KeyTag tag) noexcept {
@@ -44,7 +41,7 @@ void KeyBuckets::Put(const char* stored, KeyTag tag) noexcept {
 }
 
 void KeyBuckets::Resize(std::size_t keys) {
-  const std::size_t count = keys / kKeysOfBucket + 1;
+  const std::size_t count = keys / keysOfBucket_ + 1;
   if (count > kMostBuckets) throw std::bad_alloc();
   const std::size_t bytes = count * sizeof(KeyBucket);
   std::size_t room = bytes + alignof(KeyBucket);
@@ -56,7 +53,7 @@ void KeyBuckets::Resize(std::size_t keys) {
   const auto oldMemory = std::exchange(memory_, std::move(memory));
   const KeyBucket* const old = std::exchange(buckets_, buckets);
   const std::size_t oldCount = std::exchange(count_, count);
-  most_ = count * kKeysOfBucket;
+  most_ = count * keysOfBucket_;
   for (std::size_t from = 0; from < oldCount; ++from) {
     const KeyBucket& bucket = old[from];
     for (std::size_t slot = 0; slot < bucket.Size(); ++slot) {

@@ -11,10 +11,17 @@
 
 namespace kx {
 
+/// How many keys a bucket of six slots holds on average. In a fuller table more keys find no room
+/// in their bucket, and searches go on to the next one.
+enum class TableFill : std::size_t {
+  kForSearches = 4,  ///< for what hosts wait for
+  kForMemory = 5,    ///< for tables that are searched only while files are read
+};
+
 /// The buckets of a flat table, whatever equality means there.
 class KeyBuckets {
  public:
-  KeyBuckets() = default;
+  explicit KeyBuckets(TableFill fill) noexcept : keysOfBucket_(static_cast<std::size_t>(fill)) {}
   KeyBuckets(const KeyBuckets&) = delete;
   KeyBuckets& operator=(const KeyBuckets&) = delete;
 
@@ -89,6 +96,7 @@ class KeyBuckets {
   std::size_t NextSize() const noexcept;
   void Resize(std::size_t keys);
 
+  const std::size_t keysOfBucket_;
   std::unique_ptr<char[]> memory_;
   KeyBucket* buckets_ = nullptr;  ///< in the memory, from a line of the cache on
   std::size_t count_ = 0;         ///< buckets
@@ -111,7 +119,9 @@ class KeyBuckets {
 template <class Case>
 class BasicKeyTable : public KeyBuckets {
  public:
-  explicit BasicKeyTable(const HashSeed& seed = ProcessHashSeed()) noexcept : seed_(seed) {}
+  explicit BasicKeyTable(TableFill fill = TableFill::kForSearches,
+                         const HashSeed& seed = ProcessHashSeed()) noexcept
+      : KeyBuckets(fill), seed_(seed) {}
 
   /// The hash by which this table finds `key`.
   std::uint64_t Hash(std::string_view key) const noexcept { return HashKey<Case>(key, seed_); }

@@ -9,7 +9,8 @@
 namespace kx {
 namespace {
 
-constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+// Four times as large, it was as fast, and what its memory left stayed with the process.
+constexpr std::size_t kBlockBytes = std::size_t{16} * 1024;
 
 }  // namespace
 

@@ -16,7 +16,9 @@ namespace {
 /// A table with the memory of its keys, and a model of both.
 class Keys {
  public:
-  explicit Keys(const kx::HashSeed& seed = kx::ProcessHashSeed()) : table_(seed) {}
+  explicit Keys(kx::TableFill fill = kx::TableFill::kForSearches,
+                const kx::HashSeed& seed = kx::ProcessHashSeed())
+      : table_(fill, seed) {}
 
   const char* Find(const std::string& key) const { return table_.Find(key, table_.Hash(key)); }
 
@@ -83,13 +85,15 @@ TEST(KeyTable, AnswersTheNewPlaceOfAKeyThatMoved) {
 class KeyTableOfSize : public testing::TestWithParam<int> {};
 
 TEST_P(KeyTableOfSize, HoldsAllKeysAndNoOthers) {
-  Keys keys;
-  for (int number = 0; number < GetParam(); ++number) {
-    keys.Add("Key." + std::to_string(number) + ".of.many");
-  }
-  keys.ExpectLikeModel();
-  for (int number = 0; number < GetParam(); ++number) {
-    ASSERT_EQ(nullptr, keys.Find("Absent." + std::to_string(number)));
+  for (const kx::TableFill fill : {kx::TableFill::kForSearches, kx::TableFill::kForMemory}) {
+    Keys keys(fill);
+    for (int number = 0; number < GetParam(); ++number) {
+      keys.Add("Key." + std::to_string(number) + ".of.many");
+    }
+    keys.ExpectLikeModel();
+    for (int number = 0; number < GetParam(); ++number) {
+      ASSERT_EQ(nullptr, keys.Find("Absent." + std::to_string(number)));
+    }
   }
 }
 
@@ -125,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(Adversary, KeyTableOfHashes,
 TEST(KeyTable, AgreesWithAModelOnRandomKeys) {
   std::mt19937 random(2);
   for (int round = 0; round < 20; ++round) {
-    Keys keys({random(), random()});
+    Keys keys(kx::TableFill::kForSearches, {random(), random()});
     for (int step = 0; step < 2000; ++step) {
       std::string key(random() % 5, '\0');
       for (char& c : key) c = "aAbBcC.\xC3"[random() % 8];
