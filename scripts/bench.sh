@@ -21,6 +21,7 @@ quietly cmake --preset release -B build/bench -DKXXLATE_BENCHMARKS=ON
 quietly cmake --build build/bench
 # The library finds the generated catalogues by this, and logs each first miss there.
 export TAVI_XLATE_ROOT=$PWD/build/bench/catalogues
+unset KXXLATE_LOG
 rm -rf "$TAVI_XLATE_ROOT/log"
 echo "Measuring; all that is measured goes to build/bench/results.txt."
 # Repetitions of all benchmarks are mixed, so that what disturbs the machine disturbs all alike.

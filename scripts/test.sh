@@ -14,6 +14,6 @@ need_packages "${packages[@]}"
 echo "Building into build/$preset."
 quietly cmake --preset "$preset"
 quietly cmake --build --preset "$preset"
-# Tests that host the library themselves would find the developer's catalogues by it.
-unset TAVI_XLATE_ROOT
+# Tests that host the library themselves would find the developer's catalogues and log by these.
+unset TAVI_XLATE_ROOT KXXLATE_LOG
 ctest --preset "$preset" --parallel "$(nproc)" --schedule-random

@@ -6,7 +6,9 @@ kxxlate_unit_test(search_test
   support/fake_machine.h)
 
 kxxlate_unit_test(log_test
+  log/chosen_log_test.cpp
   log/held_log_test.cpp
+  log/log_choice_test.cpp
   log/problem_sink_test.cpp
   log/translation_log_test.cpp
   log/translation_log_threads_test.cpp
@@ -57,6 +59,7 @@ endif()
 
 kxxlate_host_test(process_test
   process/log_location_test.cpp
+  process/log_switch_test.cpp
   process/resource_replacement_test.cpp
   process/resource_search.h
   process/resource_search_test.cpp
@@ -74,8 +77,10 @@ if(WIN32)
 else()
   target_sources(process_test PRIVATE
     process/closed_streams_posix_test.cpp
+    process/log_switch_posix_test.cpp
     process/long_path_posix_test.cpp
-    process/resource_search_posix_test.cpp)
+    process/resource_search_posix_test.cpp
+    support/set_user_id_posix.h)
 endif()
 add_dependencies(process_test unloading_host)
 target_compile_definitions(process_test PRIVATE

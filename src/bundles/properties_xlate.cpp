@@ -9,7 +9,7 @@
 #include "bundles/split_locale.h"
 #include "bundles/xlate_manager.h"
 #include "format/caller_buffer.h"
-#include "log/standard_output.h"
+#include "log/standard_ostream.h"
 #include "log/translation_log.h"
 
 PropertiesXlate::PropertiesXlate(const bnd::BundleFile<CKxXlate>* owner) : owner_(owner) {
@@ -75,7 +75,7 @@ bool PropertiesXlate::GetPrompt(char* dst, KxSize size, const char* /*key*/, con
 }
 
 void PropertiesXlate::DumpTable() const {
-  kx::StandardOutputStream output;
+  kx::StandardOstream output(kx::StandardStream::kOutput);
   output << "Xlate " << owner_->BundleName() << '/' << owner_->Locale() << '\n';
   texts_.ForEach([&output](const char* key, const char* text) {
     output << "   " << key << "=>" << text << '\n';

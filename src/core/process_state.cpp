@@ -1,11 +1,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <utility>
 
 #include "bundles/install_manager.h"
 #include "bundles/resource_directory.h"
 #include "lang/interned_strings.h"
 #include "lang/language_paths.h"
+#include "log/log_choice.h"
 #include "log/translation_log.h"
 
 namespace kx {
@@ -16,7 +18,10 @@ namespace {
 template <class T>
 class NeverDestroyed {
  public:
-  NeverDestroyed() { new (storage_) T; }
+  template <class... Arguments>
+  explicit NeverDestroyed(Arguments&&... arguments) {
+    new (storage_) T(std::forward<Arguments>(arguments)...);
+  }
   NeverDestroyed(const NeverDestroyed&) = delete;
   NeverDestroyed& operator=(const NeverDestroyed&) = delete;
 
@@ -38,7 +43,7 @@ NeverDestroyed<InstalledManagers> g_managers;
 // Reads the directory now, while no host thread can look anything up; it must not log, since the
 // log below does not exist yet.
 [[maybe_unused]] const bool kBundlesInstalled = InstallBundlesAtLoad(*g_resources, *g_managers);
-NeverDestroyed<TranslationLog> g_log;
+NeverDestroyed<TranslationLog> g_log(LogChoiceOfEnvironment());
 
 }  // namespace
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <ostream>
 
-#include "log/standard_output.h"
+#include "log/standard_ostream.h"
 #include "platform/directories.h"
 #include "platform/file_status.h"
 #include "platform/file_streams.h"
@@ -43,6 +43,7 @@ void AppendOnOneLine(std::string& line, std::string_view piece) {
 
 void TranslationLog::WriteLine(const std::string& root,
                                std::initializer_list<std::string_view> pieces) {
+  if (choice_.place == LogChoice::Place::kNowhere) return;
   std::string line;
   for (const std::string_view piece : pieces) AppendOnOneLine(line, piece);
   line += '\n';
@@ -56,8 +57,13 @@ void TranslationLog::WriteLine(const std::string& root,
 
 std::ostream& TranslationLog::OpenTranslationLog(const std::string& root) {
   if (stream_ != nullptr) return *stream_;
-  const bool mayOpen = trustsWorkingDirectory_ || root.starts_with('/');
-  if (path_.empty() && mayOpen) path_ = LogFilePath(root);
+  if (choice_.place != LogChoice::Place::kStandardErrors) return OpenLogFile(root);
+  stream_ = new StandardOstream(StandardStream::kErrors);
+  return *stream_;
+}
+
+std::ostream& TranslationLog::OpenLogFile(const std::string& root) {
+  if (path_.empty()) path_ = PathOfFile(root);
   auto file = std::make_unique<CKxOfstream>();
   KxOfstreamOpen(*file, path_.c_str());
   // Somebody looks at the log with a program that keeps it to itself, or the like.
@@ -66,8 +72,14 @@ std::ostream& TranslationLog::OpenTranslationLog(const std::string& root) {
   return *stream_;
 }
 
+std::string TranslationLog::PathOfFile(const std::string& root) const {
+  if (choice_.place == LogChoice::Place::kFile) return choice_.path;
+  const bool mayOpen = trustsWorkingDirectory_ || root.starts_with('/');
+  return mayOpen ? LogFilePath(root) : std::string();
+}
+
 std::ostream& TranslationLog::StandardOutput() {
-  if (standardOutput_ == nullptr) standardOutput_ = new StandardOutputStream;
+  if (standardOutput_ == nullptr) standardOutput_ = new StandardOstream(StandardStream::kOutput);
   return *standardOutput_;
 }
 

@@ -5,7 +5,9 @@
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "log/log_choice.h"
 #include "platform/caller_trust.h"
 #include "platform/critical_section.h"
 #include "platform/thread_annotations.h"
@@ -22,15 +24,22 @@ namespace kx {
 /// In a program that runs with more rights than its caller no log is opened below the working
 /// directory, which the caller chose: the lines go to standard output.
 ///
+/// Whoever operates the host may have chosen another place (LogChoice). A file that was chosen is
+/// used as it is named, without a directory being made; when it cannot be opened, lines go to
+/// standard output as above.
+///
 /// The stream stays open for the rest of the process: it is neither closed nor freed here.
 ///
 /// One object of this class serves the process (ProcessLog); tests make their own. Its lock is the
 /// innermost of the library: nothing else is locked while it is held.
 class TranslationLog {
  public:
-  /// @param trustsWorkingDirectory  whether a log may lie below it: see KxTrustsWorkingDirectory
-  explicit TranslationLog(bool trustsWorkingDirectory = KxTrustsWorkingDirectory())
-      : trustsWorkingDirectory_(trustsWorkingDirectory) {}
+  /// @param choice                  what the operator chose; nothing unless told otherwise
+  /// @param trustsWorkingDirectory  whether a log that nobody chose may lie below it: see
+  ///                                KxTrustsWorkingDirectory
+  explicit TranslationLog(LogChoice choice = {},
+                          bool trustsWorkingDirectory = KxTrustsWorkingDirectory())
+      : choice_(std::move(choice)), trustsWorkingDirectory_(trustsWorkingDirectory) {}
   TranslationLog(const TranslationLog&) = delete;
   TranslationLog& operator=(const TranslationLog&) = delete;
 
@@ -46,8 +55,12 @@ class TranslationLog {
 
  private:
   std::ostream& OpenTranslationLog(const std::string& root) KX_REQUIRES(lock_);
+  std::ostream& OpenLogFile(const std::string& root) KX_REQUIRES(lock_);
+  /// Empty when no file may be opened.
+  std::string PathOfFile(const std::string& root) const;
   std::ostream& StandardOutput() KX_REQUIRES(lock_);
 
+  const LogChoice choice_;
   const bool trustsWorkingDirectory_;
 
   CriticalSection lock_;

@@ -1,16 +1,14 @@
 // The search with files and programs that only this system has.
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "process/resource_search.h"
 #include "support/host_tree.h"
+#include "support/set_user_id_posix.h"
 #include "support/special_files.h"
 
 namespace {
@@ -20,34 +18,6 @@ class ResourceSearchOnPosix : public ResourceSearch {
   // Where other users come, wherever the directory for temporary files is.
   ResourceSearchOnPosix() : ResourceSearch("/tmp") {}
 };
-
-void MakeProgramOfAnotherUser(const std::string& path, bool setUserId) {
-  constexpr uid_t kNobody = 65534;
-  constexpr gid_t kSameGroup = static_cast<gid_t>(-1);
-  if (::chown(path.c_str(), kNobody, kSameGroup) != 0 ||
-      ::chmod(path.c_str(), setUserId ? 04755 : 0755) != 0) {
-    throw std::runtime_error("cannot give away " + path);
-  }
-}
-
-/// Whether set-user-ID has an effect where the tree lies: mounts and containers can switch it off.
-bool IsSetUserIdHonoured(const HostTree& tree) {
-  const std::string probe = tree.CopyProgram("probe", "/usr/bin/id");
-  MakeProgramOfAnotherUser(probe, true);
-  return tree.Run(probe, {"-u"}).output == "65534\n";
-}
-
-void OpenToAllUsers(const std::string& directory) {
-  using std::filesystem::perms;
-  const auto open = [](const std::filesystem::path& path) {
-    std::filesystem::permissions(path, perms::others_read | perms::others_exec,
-                                 std::filesystem::perm_options::add);
-  };
-  open(PathFromUtf8(directory));
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(PathFromUtf8(directory))) {
-    open(entry.path());
-  }
-}
 
 TEST_F(ResourceSearchOnPosix, ALinkToADirectoryIsADirectory) {
   Provide("elsewhere");

@@ -4,8 +4,8 @@
 
 namespace {
 
-const char* const kLibraryVariables[] = {"TAVI_XLATE_ROOT", "TAVI_AGENT_ROOT", "PWSVC_HOME",
-                                         "TAVI_PROXY_ROOT", "TAVI_POLSRV_ROOT"};
+const char* const kLibraryVariables[] = {"TAVI_XLATE_ROOT", "TAVI_AGENT_ROOT",  "PWSVC_HOME",
+                                         "TAVI_PROXY_ROOT", "TAVI_POLSRV_ROOT", "KXXLATE_LOG"};
 
 void Copy(const std::filesystem::path& source, const std::filesystem::path& target) {
   std::filesystem::copy_file(source, target, std::filesystem::copy_options::overwrite_existing);

@@ -1,26 +1,24 @@
-#include "log/standard_output.h"
+#include "log/standard_ostream.h"
 
 #include <cstddef>
 #include <utility>
 
-#include "platform/standard_stream.h"
-
 namespace kx {
 
-std::streamsize StandardOutputBuffer::xsputn(const char* text, std::streamsize size) {
+std::streamsize StandardStreamBuffer::xsputn(const char* text, std::streamsize size) {
   pending_.append(text, static_cast<std::size_t>(size));
   return size;
 }
 
-StandardOutputBuffer::int_type StandardOutputBuffer::overflow(int_type c) {
+StandardStreamBuffer::int_type StandardStreamBuffer::overflow(int_type c) {
   if (!traits_type::eq_int_type(c, traits_type::eof())) pending_ += traits_type::to_char_type(c);
   return traits_type::not_eof(c);
 }
 
 // What cannot be written is lost silently; the stream goes on.
-int StandardOutputBuffer::sync() {
+int StandardStreamBuffer::sync() {
   const std::string text = std::exchange(pending_, {});
-  WriteToStandardStream(StandardStream::kOutput, text);
+  WriteToStandardStream(stream_, text);
   return 0;
 }
 
