@@ -19,4 +19,7 @@ endforeach()
 
 add_test(NAME Documents.LinksLeadToWhatIsThere
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_links.py)
-set_tests_properties(Documents.LinksLeadToWhatIsThere PROPERTIES ${test_properties})
+add_test(NAME Documents.LinksThatLeadNowhereAreFound
+  COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_links_test.py)
+set_tests_properties(Documents.LinksLeadToWhatIsThere Documents.LinksThatLeadNowhereAreFound
+  PROPERTIES ${test_properties})

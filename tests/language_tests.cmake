@@ -65,4 +65,8 @@ kxxlate_host_test(language_process_test
   process/language_locale_test.cpp
   process/language_lookup_test.cpp
   process/language_near_top_test.cpp
-  process/language_threads_test.cpp)
+  process/language_threads_test.cpp
+  process/near_top.h)
+if(NOT WIN32)
+  target_sources(language_process_test PRIVATE process/host_near_top_posix_test.cpp)
+endif()

@@ -59,6 +59,7 @@ endif()
 
 kxxlate_host_test(process_test
   process/log_location_test.cpp
+  process/log_rotation_test.cpp
   process/log_switch_test.cpp
   process/resource_replacement_test.cpp
   process/resource_search.h
@@ -77,6 +78,7 @@ if(WIN32)
 else()
   target_sources(process_test PRIVATE
     process/closed_streams_posix_test.cpp
+    process/linked_host_posix_test.cpp
     process/log_switch_posix_test.cpp
     process/long_path_posix_test.cpp
     process/resource_search_posix_test.cpp

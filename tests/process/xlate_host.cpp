@@ -16,8 +16,9 @@
 //                                  directory, direction and prompt suffix, each followed by "|"
 //   id BUNDLE LOCALE               prints the translator's identifier
 //   remove FILE                    removes a file
-//   buffer                         gives standard error a large buffer, as some runtimes do
-//   vanish                         ends the process without anything that an orderly end does
+//   shell COMMAND                  lets the system's shell run a command; prints whether it
+//   succeeded buffer                         gives standard error a large buffer, as some runtimes
+//   do vanish                         ends the process without anything that an orderly end does
 //   threads COUNT BUNDLE LOCALE KEY   COUNT threads, started together, look the text up; prints the
 //                                  number of different translators they got
 //   misses COUNT BUNDLE LOCALE     COUNT threads ask the one translator for the same 50 absent keys
@@ -155,6 +156,7 @@ HostSteps Host::Steps() {
       {"header", {2, [](const auto& a) { PrintHeader(a); }}},
       {"id", {2, [](const auto& a) { PrintId(a); }}},
       {"remove", {1, [](const auto& a) { std::filesystem::remove(HostPath(a[0])); }}},
+      {"shell", {1, [](const auto& a) { PrintTruth(std::system(a[0].c_str()) == 0); }}},
       {"buffer", {0, [](const auto&) { std::setvbuf(stderr, nullptr, _IOFBF, 1U << 16U); }}},
       {"vanish", {0, [](const auto&) { std::_Exit(0); }}},
       {"threads", {4, [](const auto& a) { LookUpInThreads(a); }}},
