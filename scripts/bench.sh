@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/common.sh
+show_help "$@"
 
 filter=-growth/
 options=()

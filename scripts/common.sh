@@ -1,5 +1,13 @@
 # What the scripts share; to be sourced.
 
+# show_help ARGUMENT...: for --help, prints how the script is used, which its first comment tells, and
+# ends it. To be called in the project's folder, to which each script goes first.
+show_help() {
+  case " $* " in *' --help '*) ;; *) return 0 ;; esac
+  (cd "$OLDPWD" && sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$0")
+  exit 0
+}
+
 # need_packages PACKAGE...: installs the Debian packages that are missing, and says so.
 need_packages() {
   local missing=()
@@ -34,7 +42,7 @@ quietly() {
 }
 
 BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
-TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev)
+TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev doxygen logrotate)
 # Two thread models of one compiler: the library's, and the one whose std::thread the tests use.
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-posix googletest wine wine64
   python3 binutils)

@@ -5,6 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/common.sh
+show_help "$@"
 
 seconds=${1:-10}
 need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"

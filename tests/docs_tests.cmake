@@ -23,3 +23,16 @@ add_test(NAME Documents.LinksThatLeadNowhereAreFound
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_links_test.py)
 set_tests_properties(Documents.LinksLeadToWhatIsThere Documents.LinksThatLeadNowhereAreFound
   PROPERTIES ${test_properties})
+
+# What the documents tell a reader to run is about this system. -B leaves nothing in the sources for
+# the modules that the checks share.
+if(NOT WIN32)
+  set(programs $<TARGET_FILE:kxxlate> $<TARGET_FILE:xlate_host>)
+  add_test(NAME Documents.CommandsDoWhatTheyShow
+    COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_commands.py ${programs})
+  add_test(NAME Documents.CommandsThatFailAreFound
+    COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_commands_test.py
+      ${programs})
+  set_tests_properties(Documents.CommandsDoWhatTheyShow Documents.CommandsThatFailAreFound
+    PROPERTIES ${test_properties})
+endif()

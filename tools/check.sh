@@ -3,6 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/common.sh
+show_help "$@"
 
 need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" git clang-format clang-tidy clang
 listed=$(git ls-files '*.h' '*.cpp')
