@@ -42,7 +42,8 @@ quietly() {
 }
 
 BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
-TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev doxygen logrotate)
+TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev doxygen logrotate
+  pkg-config meson)
 # Two thread models of one compiler: the library's, and the one whose std::thread the tests use.
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-posix googletest wine wine64
   python3 binutils)

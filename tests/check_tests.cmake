@@ -51,5 +51,34 @@ foreach(way IN ITEMS Installed Packed)
       -- ${CMAKE_CROSSCOMPILING_EMULATOR})
 endforeach()
 
+add_test(NAME Library.IsTakenInBySixLines
+  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_consumer_lines.sh
+    ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer)
+
+if(NOT WIN32 AND NOT KXXLATE_SANITIZE)
+  foreach(way IN ITEMS CMake Meson Compiler)
+    string(TOLOWER ${way} how)
+    add_test(NAME Library.IsFoundByPkgConfigAnd${way}
+      COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume_pkg_config.sh ${how} ${PROJECT_BINARY_DIR}
+        ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer ${CMAKE_CXX_COMPILER})
+  endforeach()
+endif()
+
+# Each way compiles the whole library, so each has one compiler that it is tried with.
+if(NOT WIN32 AND NOT KXXLATE_SANITIZE)
+  set(way Embedded)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    set(way Fetched)
+  endif()
+  string(TOLOWER ${way} how)
+  add_test(NAME Library.IsBuiltWithinAnotherProjectOnce${way}
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/abi/consume_sources.sh ${how} ${PROJECT_SOURCE_DIR}
+      ${CMAKE_CURRENT_SOURCE_DIR}/abi/consumer ${consumer_options})
+  set(long_checks Library.IsBuiltWithinAnotherProjectOnce${way})
+endif()
+
 get_property(checks DIRECTORY PROPERTY TESTS)
 set_tests_properties(${checks} PROPERTIES TIMEOUT 120)
+if(DEFINED long_checks)
+  set_tests_properties(${long_checks} PROPERTIES TIMEOUT 600)
+endif()

@@ -53,7 +53,9 @@ expect() {
 }
 
 # A library of the other system is looked for below the folders of its compiler, unless named.
-cmake -G Ninja -S "$sources" -B "$scratch/build" "${options[@]}" \
+mkdir "$scratch/consumer"
+cp "$sources/found/CMakeLists.txt" "$sources/main.cpp" "$scratch/consumer"
+cmake -G Ninja -S "$scratch/consumer" -B "$scratch/build" "${options[@]}" \
   -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_FIND_ROOT_PATH="$prefix"
 cmake --build "$scratch/build"
 # Some systems look for libraries in the program's folder alone.
