@@ -45,8 +45,9 @@ BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
 TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev doxygen logrotate
   pkg-config meson)
 # Two thread models of one compiler: the library's, and the one whose std::thread the tests use.
+# llvm makes the import library for Microsoft's compiler; clang and lld build hosts as that would.
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-posix googletest wine wine64
-  python3 binutils)
+  python3 binutils llvm clang lld)
 BENCH_PACKAGES=(libbenchmark-dev python3 pkg-config libabsl-dev libfmt-dev libicu-dev icu-devtools
   libboost-locale-dev gettext libglib2.0-dev libsimdjson-dev)
 PACKAGING_PACKAGES=(dpkg-dev file)

@@ -39,7 +39,7 @@ case $how in
     done
     ;;
 esac
-prefix=$(dirname "$(dirname "$(find "$folder" -name CKxXlate.h)")")
+prefix=$(dirname "$(dirname "$(find "$folder" -path '*/include/CKxXlate.h')")")
 for needed in README.md CKxXlate.h Xlate.h KxXlateExport.h KxXlateConfig.cmake; do
   [ -n "$(find "$prefix" -name "$needed")" ] || { echo "$needed is missing"; exit 1; }
 done
