@@ -6,7 +6,7 @@ source scripts/common.sh
 show_help "$@"
 
 need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" git clang-format clang-tidy clang
-listed=$(git ls-files '*.h' '*.cpp')
+listed=$(git ls-files '*.h' '*.hpp' '*.cpp')
 mapfile -t sources <<<"$listed"
 echo "Format of ${#sources[@]} files."
 clang-format --dry-run -Werror "${sources[@]}"

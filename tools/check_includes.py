@@ -33,7 +33,8 @@ def name(path):
 
 
 def sources(folder):
-    return sorted(path for path in (ROOT / folder).rglob("*") if path.suffix in {".h", ".cpp"})
+    suffixes = {".h", ".hpp", ".cpp"}
+    return sorted(path for path in (ROOT / folder).rglob("*") if path.suffix in suffixes)
 
 
 def include_breaches():
@@ -47,7 +48,8 @@ def include_breaches():
                 yield f"{name(path)}: {folder}/ may not include the public header {public}"
     for path in sources("include"):
         for target in re.findall(r'^#include "([^"]+)"', path.read_text(), re.M):
-            if not (ROOT / "include" / target).is_file():
+            included = (path.parent / target).resolve()
+            if not included.is_file() or not included.is_relative_to(ROOT / "include"):
                 yield f"{name(path)}: a public header may include only public headers, not {target}"
 
 

@@ -40,7 +40,8 @@ case $how in
     ;;
 esac
 prefix=$(dirname "$(dirname "$(find "$folder" -path '*/include/CKxXlate.h')")")
-for needed in README.md CKxXlate.h Xlate.h KxXlateExport.h KxXlateConfig.cmake; do
+for needed in README.md CKxXlate.h Xlate.h KxXlateExport.h KxXlate.hpp translator.hpp \
+  KxXlateConfig.cmake; do
   [ -n "$(find "$prefix" -name "$needed")" ] || { echo "$needed is missing"; exit 1; }
 done
 
