@@ -30,6 +30,14 @@ struct Xlate;
 /// All operations are safe from any thread while the caller holds a reference. Lookups report
 /// nothing to the caller but "not found"; only std::bad_alloc may leave an operation.
 ///
+/// Lookups into a caller's buffer share a rule: at most `size` - 1 bytes are copied, a longer text
+/// is cut (possibly inside a UTF-8 sequence), and `dst` always ends with NUL. `size` counts that
+/// NUL; a null `dst` or a size of 0 writes nothing and answers false. The result tells whether the
+/// key was found, never whether the text fitted. Null keys are never found, nor are empty ones in
+/// language files. A key that is not found is kept and logged, once for each translator and kind of
+/// lookup (of property bundles only texts, without language files nothing), without bound: a host
+/// should look up no strangers' keys.
+///
 /// Hosts call the virtual operations by their position in the table, in the order below (slots 0
 /// to 18), so the order is frozen.
 ///
@@ -79,20 +87,6 @@ class KXXLATE_API CKxXlate {
   // Slots 11 to 16 are three pairs of overloads: the first of a pair answers a pointer, the second
   // copies into the caller's buffer. Microsoft's compiler lays overloads of one name out in reverse
   // order of declaration, all others in the order of declaration; hence the two blocks.
-  //
-  // The rule of every copy: at most `size` - 1 bytes are copied, a longer text is cut (possibly
-  // inside a UTF-8 sequence), and `dst` always ends with NUL. `size` counts that NUL; a null `dst`
-  // or a size of 0 writes nothing and answers false. The result tells whether the key was found,
-  // never whether the text fitted.
-  //
-  //   GetDirectory  the path listed under `name` (any case); null, or "" and false, when absent
-  //   GetText       the message text of `key` (any case). When absent: null; into a buffer `dflt`,
-  //                 or "" if that is null, and false
-  //   GetLabel      the button label of `key` (any case); null, or "" and false, when absent
-  //
-  // Null keys are never found, nor are empty ones in language files. A key that is not found is
-  // kept and logged, once for each translator and kind of lookup (of property bundles only texts,
-  // without language files nothing), without bound: a host should look up no strangers' keys.
 #if defined(_MSC_VER)
   virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;              // 12
   virtual const char* GetDirectory(const char* name) = 0;                               // 11
@@ -101,12 +95,18 @@ class KXXLATE_API CKxXlate {
   virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                   // 16
   virtual const char* GetLabel(const char* key) = 0;                                    // 15
 #else
-  virtual const char* GetDirectory(const char* name) = 0;                               // 11
-  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;              // 12
-  virtual const char* GetText(const char* key) = 0;                                     // 13
-  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;  // 14
-  virtual const char* GetLabel(const char* key) = 0;                                    // 15
-  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;                   // 16
+  /// The path listed under `name` (any case); null when absent. Slot 11.
+  virtual const char* GetDirectory(const char* name) = 0;
+  /// The same into a buffer: "" and false when absent. Slot 12.
+  virtual bool GetDirectory(char* dst, KxSize size, const char* name) = 0;
+  /// The message text of `key` (any case); null when absent. Slot 13.
+  virtual const char* GetText(const char* key) = 0;
+  /// The same into a buffer: when absent `dflt`, or "" if that is null, and false. Slot 14.
+  virtual bool GetText(char* dst, KxSize size, const char* key, const char* dflt) = 0;
+  /// The button label of `key` (any case); null when absent. Slot 15.
+  virtual const char* GetLabel(const char* key) = 0;
+  /// The same into a buffer: "" and false when absent. Slot 16.
+  virtual bool GetLabel(char* dst, KxSize size, const char* key) = 0;
 #endif
 
   /// As GetText into a buffer; then the prompt suffix is appended if there is one, `dst` is not
@@ -116,7 +116,7 @@ class KXXLATE_API CKxXlate {
 
   /// Copies nothing: a translator has no state that could be assigned from outside.
   CKxXlate& operator=(const CKxXlate& other);
-
+  /// Copies nothing either.
   CKxXlate(const CKxXlate& other);
 
   /// Finds the translator of a bundle for a locale.

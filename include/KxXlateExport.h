@@ -1,8 +1,7 @@
 #ifndef KX_XLATE_EXPORT_H
 #define KX_XLATE_EXPORT_H
 
-// KXXLATE_API marks what the shared library hands out. KXXLATE_BUILDING is set only while the
-// library itself is compiled.
+// KXXLATE_BUILDING is set only while the library itself is compiled.
 #if defined(_WIN32)
 #if defined(KXXLATE_BUILDING)
 #define KXXLATE_API __declspec(dllexport)
@@ -10,6 +9,7 @@
 #define KXXLATE_API __declspec(dllimport)
 #endif
 #else
+/// Marks what the shared library hands out.
 #define KXXLATE_API __attribute__((visibility("default")))
 #endif
 

@@ -20,13 +20,21 @@ class CKxText {
   CKxText& operator=(CKxText&& other) = default;
   virtual ~CKxText() = default;
 
+  /// Makes the text empty.
   virtual void Clear() { text.clear(); }
+
+  /// Replaces the text.
   virtual void Set(const char* replacement) { text = replacement == nullptr ? "" : replacement; }
+
+  /// Puts a text behind.
   virtual void Append(const char* more) {
     if (more != nullptr) text += more;
   }
+
+  /// The same with a string, which may hold NULs.
   virtual void AppendString(const std::string& more) { text += more; }
 
+  /// The text itself, for hosts to read; the library changes it only through the operations.
   std::string text;
 };
 
@@ -59,6 +67,7 @@ struct Xlate {
   /// The result of the last Format.
   CKxText output;
 
+  /// The bundle's name, in its exact case.
   std::string bundleName;
 
   /// As CKxXlate::GetBundle takes it.

@@ -47,3 +47,13 @@ if(NOT WIN32)
   set_tests_properties(Documents.CommandsDoWhatTheyShow Documents.CommandsThatFailAreFound
     PROPERTIES ${test_properties})
 endif()
+
+# The pages are the same on every system.
+if(NOT WIN32)
+  find_package(Doxygen REQUIRED)
+  add_test(NAME Documents.PagesOfHeadersAreMadeWithoutAWarningAndTheSameEverywhere
+    COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_pages.py
+      ${DOXYGEN_EXECUTABLE})
+  set_tests_properties(Documents.PagesOfHeadersAreMadeWithoutAWarningAndTheSameEverywhere
+    PROPERTIES ${test_properties})
+endif()
