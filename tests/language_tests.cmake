@@ -48,7 +48,8 @@ kxxlate_unit_test(allocation_test
 kxxlate_unit_test(language_bytes_test
   core/language_bytes_test.cpp
   core/live_bytes.cpp
-  core/live_bytes.h)
+  core/live_bytes.h
+  core/rollout_bytes_test.cpp)
 
 if(NOT WIN32)
   # Stands in front of the system's functions, so apart from all the others.

@@ -82,7 +82,11 @@ else()
     process/log_switch_posix_test.cpp
     process/long_path_posix_test.cpp
     process/resource_search_posix_test.cpp
+    process/service_rights_posix_test.cpp
+    process/upgraded_library_posix_test.cpp
     support/set_user_id_posix.h)
+  target_compile_definitions(process_test PRIVATE
+    KXXLATE_LIBRARY_NAME="$<TARGET_SONAME_FILE_NAME:KxXlate>")
 endif()
 add_dependencies(process_test unloading_host)
 target_compile_definitions(process_test PRIVATE
