@@ -21,6 +21,16 @@ else()
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_exports.py
       ${CMAKE_NM} $<TARGET_FILE:KxXlate> ${CMAKE_CURRENT_SOURCE_DIR}/abi/exports_linux.txt)
 
+  if(KXXLATE_HARDENING)
+    set(hardened built)
+    if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+      set(hardened fortified)
+    endif()
+    add_test(NAME Library.IsHardenedLikeItsTool
+      COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/packages/check_hardening.sh ${hardened}
+        $<TARGET_FILE:KxXlate> $<TARGET_FILE:kxxlate>)
+  endif()
+
   # Whatever compiler builds the library: this one alone knows the layout of the other system.
   find_program(KXXLATE_CLANG clang++ REQUIRED)
   add_test(NAME Sources.KeepTheSlotsForMicrosoftsCompiler
