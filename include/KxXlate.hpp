@@ -11,7 +11,13 @@
 #include "CKxXlate.h"
 #include "KxXlateVersion.h"
 #include "Xlate.h"
+#include "kxxlate/fallback_chain.hpp"
 #include "kxxlate/insert.hpp"
+#include "kxxlate/insert_typed.hpp"
+#include "kxxlate/insert_variable.hpp"
+#include "kxxlate/locales.hpp"
+#include "kxxlate/message.hpp"
+#include "kxxlate/negotiate.hpp"
 #include "kxxlate/translator.hpp"
 
 #endif  // KX_XLATE_HPP

@@ -59,8 +59,8 @@ template <class Engine, class Size, class... Rest>
 Inserted InsertIntoPlace(char* buffer, Size size, const Rest&... rest) {
   static_assert(std::is_integral_v<Size> && sizeof...(Rest) > 0,
                 "kx: a pointer does not tell how long the buffer is: pass its size behind it");
-  return CopyInto(buffer, size > 0 ? static_cast<std::size_t>(size) : 0,
-                  Engine::Run(rest...).View());
+  const std::size_t bytes = size > 0 ? static_cast<std::size_t>(size) : 0;
+  return CopyInto(buffer, bytes, Engine::Run(bytes, rest...).View());
 }
 
 /// The forms of a buffer: an array, which has its size, or a pointer and the size behind it.
@@ -76,7 +76,8 @@ Inserted InsertInto(Buffer& buffer, const Rest&... rest) {
     static_assert(IsCharacterArray<Buffer>::value,
                   "kx: a buffer must be an array of char, writable and of more than one byte, or a "
                   "char* with its size behind it");
-    return CopyInto(std::data(buffer), std::size(buffer), Engine::Run(rest...).View());
+    const std::size_t bytes = std::size(buffer);
+    return CopyInto(std::data(buffer), bytes, Engine::Run(bytes, rest...).View());
   }
 }
 

@@ -1,6 +1,7 @@
 #ifndef KX_KXXLATE_INSERT_HPP
 #define KX_KXXLATE_INSERT_HPP
 
+#include <cstddef>
 #include <string>
 #include <tuple>
 
@@ -15,16 +16,18 @@ namespace detail {
 /// CKxXlate::FormatMessageA over what hosts pass.
 struct PositionalEngine {
   template <class Text, class... Values>
-  static WholeResult Run(const Text& text, const Values&... values) {
+  static WholeResult Run(std::size_t most, const Text& text, const Values&... values) {
     (CheckValue<Values>(), ...);
     const GivenText<Text> format(text);
     const std::tuple<TextOf<Values>...> texts(values...);
     return std::apply(
-        [&format](const auto&... each) {
+        [&format, most](const auto&... each) {
           const char* arguments[sizeof...(Values) + 1] = {each.Get()..., nullptr};
-          return WholeResult([&](char* buffer, KxSize size) {
-            CKxXlate::FormatMessageA(buffer, size, format.Get(), sizeof...(Values), arguments);
-          });
+          return WholeResult(
+              [&](char* buffer, KxSize size) {
+                CKxXlate::FormatMessageA(buffer, size, format.Get(), sizeof...(Values), arguments);
+              },
+              most);
         },
         texts);
   }
@@ -48,7 +51,7 @@ struct PositionalEngine {
 ///     std::string line = kx::insert("%1 of %0", 10, std::string("three"));  // "three of 10"
 template <class Text, class... Values>
 [[nodiscard]] std::string insert(const Text& text, const Values&... values) {
-  return detail::PositionalEngine::Run(text, values...).Take();
+  return detail::PositionalEngine::Run(detail::WholeResult::kAll, text, values...).Take();
 }
 
 /// The same into a buffer of the host's: an array of char (or std::array), or a pointer and, behind

@@ -18,16 +18,19 @@ namespace kx::detail {
 ///
 /// The library tells nobody how long a result is, and cuts it to `size` - 1 bytes. One of exactly
 /// that length may therefore have been cut, and is asked for again with more room; all others are
-/// whole, and nearly all at the first call. Positional insertion copies a result of `size` bytes
+/// whole, nearly all at the first call. Positional insertion copies a result of `size` bytes
 /// whole, with its NUL behind them: each buffer here has a byte more than it says.
 class WholeResult {
  public:
-  /// @param run  called with a buffer and its size, until the result fits
+  static constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
+
+  /// @param run   called with a buffer and its size, until the result fits
+  /// @param most  of a result with more bytes at least that many, and one, are enough
   template <class Run>
-  explicit WholeResult(const Run& run) {
+  explicit WholeResult(const Run& run, std::size_t most = kAll) {
     run(near_, static_cast<KxSize>(kNearBytes));
     size_ = std::strlen(near_);
-    if (size_ == kNearBytes - 1) Grow(run);
+    if (size_ == kNearBytes - 1 && size_ <= most) Grow(run, most);
   }
 
   /// A result that is whole already.
@@ -49,7 +52,7 @@ class WholeResult {
   static constexpr std::size_t kMostBytes = std::numeric_limits<KxSize>::max();
 
   template <class Run>
-  void Grow(const Run& run) {
+  void Grow(const Run& run, std::size_t most) {
     isFar_ = true;
     std::size_t room = kNearBytes;
     do {
@@ -58,7 +61,7 @@ class WholeResult {
       far_.resize(room);  // the string has one byte more, its terminator's
       run(far_.data(), static_cast<KxSize>(room));
       size_ = std::strlen(far_.data());
-    } while (size_ == room - 1);
+    } while (size_ == room - 1 && size_ <= most);
     far_.resize(size_);
   }
 
