@@ -54,6 +54,10 @@ if(NOT WIN32)
   add_test(NAME Documents.PagesOfHeadersAreMadeWithoutAWarningAndTheSameEverywhere
     COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_pages.py
       ${DOXYGEN_EXECUTABLE})
+  add_test(NAME Documents.TheTargetDocsMakesThePages
+    COMMAND sh -c "\"$0\" --build . --target docs && test -s docs/html/classCKxXlate.html"
+      ${CMAKE_COMMAND}
+    WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
   set_tests_properties(Documents.PagesOfHeadersAreMadeWithoutAWarningAndTheSameEverywhere
-    PROPERTIES ${test_properties})
+    Documents.TheTargetDocsMakesThePages PROPERTIES ${test_properties})
 endif()
