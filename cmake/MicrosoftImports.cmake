@@ -27,3 +27,5 @@ set(microsoft_headers ${public_headers})
 list(FILTER microsoft_headers EXCLUDE REGEX "/Xlate\\.h$")
 install(FILES ${microsoft_headers} ${PROJECT_SOURCE_DIR}/include/microsoft/Xlate.h
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/microsoft COMPONENT development)
+install(FILES ${face_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/microsoft/kxxlate
+  COMPONENT development)

@@ -27,19 +27,34 @@ add_custom_command(OUTPUT ${runtime}/runtime.obj ${runtime}/kernel32.lib
 get_target_property(microsoft_imports microsoft_imports KXXLATE_FILE)
 set(include ${PROJECT_SOURCE_DIR}/include)
 set(host ${CMAKE_CURRENT_SOURCE_DIR}/abi/microsoft_host)
-add_custom_command(OUTPUT ${runtime}/host.exe
-  COMMAND ${compile} -I ${include}/microsoft -I ${include}
-    -c ${host}/host.cpp -o ${runtime}/host.obj
-  COMMAND ${KXXLATE_LLD_LINK} -nodefaultlib -subsystem:console -out:${runtime}/host.exe
-    ${runtime}/host.obj ${runtime}/runtime.obj ${runtime}/kernel32.lib ${microsoft_imports}
-  DEPENDS ${host}/host.cpp ${host}/lines.h ${include}/CKxXlate.h ${include}/KxXlateExport.h
-    ${include}/microsoft/Xlate.h ${stub_headers} ${runtime}/runtime.obj ${microsoft_imports}
+set(sample ${runtime}/sample)
+add_custom_command(OUTPUT ${sample}.cpp ${sample}.txt
+  COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/extract_sample.py
+    ${PROJECT_SOURCE_DIR}/docs/windows.md ${sample}.cpp ${sample}.txt
+  DEPENDS ${PROJECT_SOURCE_DIR}/docs/windows.md ${CMAKE_CURRENT_SOURCE_DIR}/abi/extract_sample.py
   VERBATIM)
-add_custom_target(microsoft_host ALL DEPENDS ${runtime}/host.exe)
+
+# The program NAME.exe from one source; more arguments are what it depends on.
+function(kxxlate_microsoft_program name source)
+  add_custom_command(OUTPUT ${runtime}/${name}.exe
+    COMMAND ${compile} -I ${include}/microsoft -I ${include} -c ${source} -o ${runtime}/${name}.obj
+    COMMAND ${KXXLATE_LLD_LINK} -nodefaultlib -subsystem:console -out:${runtime}/${name}.exe
+      ${runtime}/${name}.obj ${runtime}/runtime.obj ${runtime}/kernel32.lib ${microsoft_imports}
+    DEPENDS ${source} ${ARGN} ${include}/CKxXlate.h ${include}/KxXlateExport.h
+      ${include}/microsoft/Xlate.h ${stub_headers} ${runtime}/runtime.obj ${microsoft_imports}
+    VERBATIM)
+endfunction()
+kxxlate_microsoft_program(host ${host}/host.cpp ${host}/lines.h)
+kxxlate_microsoft_program(sample_host ${sample}.cpp)
+add_custom_target(microsoft_host ALL DEPENDS ${runtime}/host.exe ${runtime}/sample_host.exe)
 add_dependencies(microsoft_host microsoft_imports)
 
 add_test(NAME MicrosoftHost.CallsTheLibraryAsItsOwn
-  COMMAND ${host}/run.sh ${runtime}/host.exe $<TARGET_FILE:KxXlate> ${host}
+  COMMAND ${host}/run.sh ${runtime}/host.exe $<TARGET_FILE:KxXlate>
+    ${host}/resources ${host}/expected.txt -- ${CMAKE_CROSSCOMPILING_EMULATOR})
+add_test(NAME MicrosoftHost.IsWrittenAsTheDocumentShows
+  COMMAND ${host}/run.sh ${runtime}/sample_host.exe $<TARGET_FILE:KxXlate>
+    ${PROJECT_SOURCE_DIR}/examples/catalogues/resources ${sample}.txt
     -- ${CMAKE_CROSSCOMPILING_EMULATOR})
 
 # That compiler's command line, by which CMake takes clang for it.
@@ -59,6 +74,7 @@ endforeach()
 set_tests_properties(
   MicrosoftHost.LinksEachFunctionByTheNameItsCompilerGives
   MicrosoftHost.CallsTheLibraryAsItsOwn
+  MicrosoftHost.IsWrittenAsTheDocumentShows
   MicrosoftHost.FindsTheLibraryOnceInstalled
   MicrosoftHost.FindsTheLibraryOncePacked
   PROPERTIES ${test_properties})

@@ -21,6 +21,12 @@ kxxlate_unit_test(bundle_registry_test
   bundles/xlate_manager_test.cpp
   scenarios/property_fallback_test.cpp)
 
+# Apart, since its class Xlate is not that of other tests.
+kxxlate_host_test(microsoft_message_test abi/microsoft_message_test.cpp)
+# Only the linker of other hosts reads the pragma in that header.
+target_compile_options(microsoft_message_test PRIVATE
+  -Wno-unknown-pragmas $<$<CXX_COMPILER_ID:Clang>:-Wno-ignored-pragmas>)
+
 kxxlate_host_test(abi_test
   abi/slot_order_test.cpp
   abi/translator_slots_test.cpp)

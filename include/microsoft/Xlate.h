@@ -17,20 +17,18 @@
     linker,      \
     "/alternatename:__imp_?Format@CKxXlate@@SAPEBDPEAUXlate@@PEBD@Z=__imp__ZN8CKxXlate6FormatEP5XlatePKc")
 
-/// A text in the host's memory, which the library reads and never changes. Null texts count as
-/// empty.
+/// A text in the host's memory, which the library reads and never changes: as much of a std::string
+/// as messages need. Null texts count as empty, and any text may be a part of this one.
 class CKxString {
  public:
   CKxString() = default;
   CKxString(const char* text) { *this = text; }
-  CKxString(const std::string& text) { assign(text.data(), text.size()); }
-  CKxString(const CKxString& other) { assign(other.text_, other.size_); }
+  CKxString(const std::string& text) { *this = text; }
+  CKxString(const CKxString& other) { *this = other; }
   CKxString(CKxString&& other) noexcept { swap(other); }
   ~CKxString() { delete[] block_; }
 
-  CKxString& operator=(const char* text) {
-    return text == nullptr ? assign("", 0) : assign(text, std::strlen(text));
-  }
+  CKxString& operator=(const char* text) { return assign(text, SizeOf(text)); }
   CKxString& operator=(const std::string& text) { return assign(text.data(), text.size()); }
   CKxString& operator=(const CKxString& other) { return assign(other.text_, other.size_); }
   CKxString& operator=(CKxString&& other) noexcept {
@@ -38,19 +36,20 @@ class CKxString {
     return *this;
   }
 
-  /// The text may be a part of this one.
-  CKxString& assign(const char* text, std::size_t size) {
-    return Replace(new char[size + 1], "", 0, text, size);
-  }
-  CKxString& append(const char* text, std::size_t size) {
-    return Replace(new char[size_ + size + 1], text_, size_, text, size);
-  }
+  CKxString& assign(const char* text, std::size_t size) { return PutAt(0, text, size); }
+  CKxString& append(const char* text, std::size_t size) { return PutAt(size_, text, size); }
+  CKxString& append(const char* text) { return append(text, SizeOf(text)); }
+  CKxString& append(const std::string& text) { return append(text.data(), text.size()); }
+  CKxString& operator+=(const char* text) { return append(text); }
+  CKxString& operator+=(const std::string& text) { return append(text); }
+  void push_back(char byte) { append(&byte, 1); }
+  void clear() { assign("", 0); }
 
-  void clear() { *this = CKxString(); }
   void swap(CKxString& other) noexcept {
     std::swap(text_, other.text_);
     std::swap(size_, other.size_);
     std::swap(block_, other.block_);
+    std::swap(capacity_, other.capacity_);
   }
 
   const char* c_str() const { return text_; }
@@ -60,14 +59,24 @@ class CKxString {
   operator std::string() const { return std::string(text_, size_); }
 
  private:
-  CKxString& Replace(char* block, const char* first, std::size_t firstSize, const char* second,
-                     std::size_t secondSize) {
-    std::memcpy(block, first, firstSize);
-    std::memcpy(block + firstSize, second, secondSize);
-    block[firstSize + secondSize] = '\0';
-    delete[] block_;
-    text_ = block_ = block;
-    size_ = firstSize + secondSize;
+  static std::size_t SizeOf(const char* text) { return text == nullptr ? 0 : std::strlen(text); }
+
+  /// Makes the text end with this one, from the place on.
+  CKxString& PutAt(std::size_t place, const char* text, std::size_t size) {
+    const std::size_t whole = place + size;
+    char* old = nullptr;
+    if (whole > capacity_ || block_ == nullptr) {
+      const std::size_t room = whole > 2 * capacity_ ? whole : 2 * capacity_;
+      char* const block = new char[room + 1];
+      std::memcpy(block, text_, place);
+      old = block_;
+      text_ = block_ = block;
+      capacity_ = room;
+    }
+    if (size != 0) std::memmove(block_ + place, text, size);
+    block_[whole] = '\0';
+    size_ = whole;
+    delete[] old;
     return *this;
   }
 
@@ -76,7 +85,7 @@ class CKxString {
   std::size_t size_ = 0;
 
   char* block_ = nullptr;
-  [[maybe_unused]] void* rest_ = nullptr;
+  std::size_t capacity_ = 0;
 };
 
 /// A string that the library changes only through its virtual operations, which are the host's own
@@ -91,9 +100,7 @@ class CKxText final {
 
   virtual void Clear() { text.clear(); }
   virtual void Set(const char* replacement) { text = replacement; }
-  virtual void Append(const char* more) {
-    if (more != nullptr) text.append(more, std::strlen(more));
-  }
+  virtual void Append(const char* more) { text.append(more); }
   virtual void AppendString(const CKxString& more) { text.append(more.data(), more.size()); }
 
   CKxString text;

@@ -24,6 +24,14 @@ void* memcpy(void* to, const void* from, std::size_t size) {
   return to;
 }
 
+void* memmove(void* to, const void* from, std::size_t size) {
+  if (to <= from) return memcpy(to, from, size);
+  for (std::size_t i = size; i > 0; --i) {
+    static_cast<char*>(to)[i - 1] = static_cast<const char*>(from)[i - 1];
+  }
+  return to;
+}
+
 void* memset(void* to, int byte, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) static_cast<char*>(to)[i] = static_cast<char>(byte);
   return to;
