@@ -4,11 +4,12 @@ find_program(KXXLATE_LLD_LINK lld-link REQUIRED)
 find_program(KXXLATE_LLVM_NM llvm-nm REQUIRED)
 find_program(KXXLATE_LLVM_UNDNAME llvm-undname REQUIRED)
 find_program(KXXLATE_CXXFILT c++filt REQUIRED)
+get_target_property(microsoft_imports microsoft_imports KXXLATE_FILE)
 
 add_test(NAME MicrosoftHost.LinksEachFunctionByTheNameItsCompilerGives
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/abi/check_microsoft_names.py
-    ${KXXLATE_CLANG} ${KXXLATE_LLVM_NM} ${KXXLATE_LLVM_UNDNAME} ${KXXLATE_CXXFILT}
-    ${PROJECT_SOURCE_DIR})
+    ${KXXLATE_CLANG} ${KXXLATE_LLVM_NM} ${KXXLATE_LLD_LINK} ${KXXLATE_LLVM_UNDNAME}
+    ${KXXLATE_CXXFILT} ${PROJECT_SOURCE_DIR} ${microsoft_imports})
 
 # What stands for that compiler's own libraries.
 set(stub_headers cstdarg cstddef cstdint cstdio cstring string utility)
@@ -24,7 +25,6 @@ add_custom_command(OUTPUT ${runtime}/runtime.obj ${runtime}/kernel32.lib
   DEPENDS ${stubs}/runtime.cpp ${stubs}/kernel32.def ${stub_headers}
   VERBATIM)
 
-get_target_property(microsoft_imports microsoft_imports KXXLATE_FILE)
 set(include ${PROJECT_SOURCE_DIR}/include)
 set(host ${CMAKE_CURRENT_SOURCE_DIR}/abi/microsoft_host)
 set(sample ${runtime}/sample)
@@ -57,8 +57,10 @@ add_test(NAME MicrosoftHost.IsWrittenAsTheDocumentShows
     ${PROJECT_SOURCE_DIR}/examples/catalogues/resources ${sample}.txt
     -- ${CMAKE_CROSSCOMPILING_EMULATOR})
 
-# That compiler's command line, by which CMake takes clang for it.
+# Both command lines of clang; CMake takes the one of this name for that compiler's.
 file(CREATE_LINK ${KXXLATE_CLANG} ${runtime}/clang-cl SYMBOLIC)
+set(compiler_installed ${runtime}/clang-cl)
+set(compiler_packed ${KXXLATE_CLANG})
 foreach(way IN ITEMS Installed Packed)
   string(TOLOWER ${way} how)
   add_test(NAME MicrosoftHost.FindsTheLibraryOnce${way}
@@ -66,7 +68,7 @@ foreach(way IN ITEMS Installed Packed)
       ${CMAKE_CURRENT_SOURCE_DIR}/abi/microsoft_consumer consumer.exe
       ${PROJECT_SOURCE_DIR}/examples/catalogues/resources
       -DCMAKE_TOOLCHAIN_FILE=${CMAKE_CURRENT_SOURCE_DIR}/abi/clang_msvc.cmake
-      -DCMAKE_BUILD_TYPE=Release -DKXXLATE_CLANG_CL=${runtime}/clang-cl
+      -DCMAKE_BUILD_TYPE=Release -DKXXLATE_HOST_COMPILER=${compiler_${how}}
       -DKXXLATE_STUBS=${stubs} -DKXXLATE_RUNTIME=${runtime}
       -- ${CMAKE_CROSSCOMPILING_EMULATOR})
 endforeach()
