@@ -4,7 +4,9 @@ kxxlate_host_test(face_test
   face/insert_test.cpp
   face/insert_typed_test.cpp
   face/insert_variable_test.cpp
+  face/locales_test.cpp
   face/message_test.cpp
+  face/negotiate_test.cpp
   face/probe_translator.h
   face/translator_answers_test.cpp
   face/translator_references_test.cpp
@@ -20,3 +22,22 @@ kxxlate_unit_test(face_memory_test
   core/counted_new.cpp
   core/counted_new.h
   face/memory_test.cpp)
+
+# Hosts that list locales, in trees of their own.
+kxxlate_host_program(face_host face/face_host.cpp)
+target_link_libraries(face_host PRIVATE KxXlate)
+kxxlate_host_test(face_search_test
+  face/locales_search.h
+  face/locales_search_test.cpp)
+target_compile_definitions(face_search_test PRIVATE
+  KXXLATE_FACE_HOST="${KXXLATE_ROOT_SEEN_BY_PROGRAMS}$<TARGET_FILE:face_host>")
+add_dependencies(face_search_test face_host)
+if(NOT WIN32)
+  add_executable(listing_host face/listing_host.cpp)
+  target_include_directories(listing_host PRIVATE ${PROJECT_SOURCE_DIR}/include)
+  kxxlate_warnings(listing_host)
+  target_sources(face_search_test PRIVATE face/locales_search_posix_test.cpp)
+  target_compile_definitions(face_search_test PRIVATE
+    KXXLATE_LISTING_HOST="$<TARGET_FILE:listing_host>")
+  add_dependencies(face_search_test listing_host)
+endif()

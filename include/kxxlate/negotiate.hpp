@@ -149,21 +149,24 @@ class OfferedLocales {
   /// The locale of a range or of the closest of its parents; or null.
   const std::string* Find(std::string_view range) const {
     // A header may be long. No locale is, and what is longer is cut at once.
-    if (range.size() > longest_) {
-      const std::size_t cut = range.rfind('-', longest_);
-      range = range.substr(0, cut == std::string_view::npos ? 0 : cut);
-    }
+    if (range.size() > longest_) range = Cut(range, range.rfind('-', longest_));
     while (!range.empty()) {
       const auto found = byName_.find(std::string(range));
       if (found != byName_.end()) return found->second;
-      range = ParentLocale(range);
-      // A single letter or digit introduces what follows it, and says nothing alone.
-      if (range.size() > 2 && range[range.size() - 2] == '-') range.remove_suffix(2);
+      range = Cut(range, range.rfind('-'));
     }
     return nullptr;
   }
 
  private:
+  /// What stands before a "-". A single letter or digit introduces what follows it, and goes with
+  /// it.
+  static std::string_view Cut(std::string_view range, std::size_t place) noexcept {
+    if (place == std::string_view::npos) return {};
+    if (place > 2 && range[place - 2] == '-') place -= 2;
+    return range.substr(0, place);
+  }
+
   std::map<std::string, const std::string*> byName_;
   std::size_t longest_ = 0;
   const std::string* any_ = nullptr;
