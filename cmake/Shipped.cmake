@@ -33,9 +33,10 @@ function(kxxlate_shipped target)
   target_compile_options(${target} PRIVATE
     $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>
     $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
-  set_target_properties(${target} PROPERTIES
-    POSITION_INDEPENDENT_CODE ON
-    BUILD_RPATH_USE_ORIGIN ON)
+  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  if(NOT KXXLATE_TESTS)  # which run copies of programs in trees of their own
+    set_target_properties(${target} PROPERTIES BUILD_RPATH_USE_ORIGIN ON)
+  endif()
   if(WIN32)
     target_link_options(${target} PRIVATE LINKER:--no-insert-timestamp)
   elseif(KXXLATE_HARDENING)

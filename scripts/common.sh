@@ -44,6 +44,8 @@ quietly() {
 BUILD_PACKAGES=(cmake ninja-build g++ libcli11-dev)
 TEST_PACKAGES=(libgtest-dev libgmock-dev python3 binutils clang libclang-rt-dev doxygen logrotate
   pkg-config meson)
+# What the examples are built with beside the library, and their clients.
+EXAMPLE_PACKAGES=(libcpp-httplib-dev wrk curl gettext libicu-dev icu-devtools libboost-locale-dev)
 # Two thread models of one compiler: the library's, and the one whose std::thread the tests use.
 # llvm makes the import library for Microsoft's compiler; clang and lld build hosts as that would.
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-posix googletest wine wine64

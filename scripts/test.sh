@@ -9,7 +9,7 @@ source scripts/common.sh
 show_help "$@"
 
 preset=${1:-debug}
-packages=("${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}")
+packages=("${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${EXAMPLE_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}")
 [ "$preset" != mingw ] || packages+=("${WINDOWS_PACKAGES[@]}")
 need_packages "${packages[@]}"
 echo "Building into build/$preset."

@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 source scripts/common.sh
 show_help "$@"
 
-need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" git clang-format clang-tidy clang
+need_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${EXAMPLE_PACKAGES[@]}" git clang-format clang-tidy clang
 listed=$(git ls-files '*.h' '*.hpp' '*.cpp')
 mapfile -t sources <<<"$listed"
 echo "Format of ${#sources[@]} files."

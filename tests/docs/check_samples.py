@@ -7,7 +7,8 @@ Usage: check_samples.py COMPILER STANDARD [LIBRARY [OPTION...]]
 Without a library, as for another system, samples are only compiled; options go to the compiler.
 
 A sample with a main is a program and compiled as it stands; any other is the inside of a function
-that can show a text. Both must end well, and
+that can show a text. Both must end well, but for one below a comment  <!-- test: refused -->, which must
+not compile, and
 
   - a statement with a text behind it as a comment, such as  f(line, ...);  // "three of ten"
     or  line = ...;  // "three of ten"  must have given that text;
@@ -45,21 +46,22 @@ int main() {
 
 
 def samples_of_documents():
-    """The place of each, its text, and what it prints if that is told."""
+    """The place of each, its text, whether it is refused, and what it prints if that is told."""
     for document in documents():
         blocks = list(blocks_of(document))
         for block, behind in zip(blocks, [*blocks[1:], None]):
             if block.kind == "cpp":
                 end = block.line + block.text.count("\n")
                 shown = behind and behind.kind == "text" and behind.line - end <= 3
-                yield block.place(), block.text, behind.text if shown else None
+                yield (block.place(), block.text, block.note == "refused",
+                       behind.text if shown else None)
 
 
 def samples_of_headers():
     # In a comment a sample stands further to the right than the text, behind an empty line.
     for path in sorted((ROOT / "include").rglob("*.h*")):
         for block in re.findall(r"^ *///\n((?: *///     .*\n)+)", path.read_text("ascii"), re.M):
-            yield path.name, re.sub(r"^ *///     ", "", block, flags=re.M), None
+            yield path.name, re.sub(r"^ *///     ", "", block, flags=re.M), False, None
 
 
 def with_expectation(line):
@@ -77,8 +79,16 @@ def program_of(sample):
     return "\n".join([*includes, *public, FRAME % ("\n".join(body) + "\n")])
 
 
-def problem_of(sample, printed, command, library):
+def refusal_problem_of(sample, command):
+    made = subprocess.run([*command, "-fsyntax-only", "-x", "c++", "-"], input=program_of(sample),
+                          text=True, check=False, capture_output=True)
+    return None if made.returncode else "compiles"
+
+
+def problem_of(sample, refused, printed, command, library):
     """What is wrong with a sample, or nothing."""
+    if refused:
+        return refusal_problem_of(sample, command)
     with tempfile.TemporaryDirectory() as folder:
         if library:
             program = str(pathlib.Path(folder, "sample"))
@@ -109,8 +119,8 @@ def main():
     command = [compiler, f"-std=c++{standard}", *WARNINGS, *options, "-I", str(ROOT / "include")]
     found = [*samples_of_documents(), *samples_of_headers()]
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
-        problems = list(pool.map(lambda one: problem_of(one[1], one[2], command, library), found))
-    for (name, sample, _), problem in zip(found, problems):
+        problems = list(pool.map(lambda one: problem_of(*one[1:], command, library), found))
+    for (name, sample, _, _), problem in zip(found, problems):
         if problem:
             print(f"{name}: this sample\n{sample}{problem}")
     if len(found) < 5:

@@ -29,7 +29,11 @@ CASES = [
     (PROGRAM % 3, None, "ends with 3"),
 ]
 
-DOCUMENT = "```cpp\na\n```\n\n```text\nA\n```\n\n```cpp\nb\n```\n\nFar.\n\n```text\nB\n```\n"
+# A sample that must not compile, and what is said of it.
+REFUSED_CASES = [("int number = \"text\";\n", None), ("Show(\"one\");\n", "compiles")]
+
+DOCUMENT = "```cpp\na\n```\n\n```text\nA\n```\n\n```cpp\nb\n```\n\nFar.\n\n```text\nB\n```\n" \
+    "\n<!-- test: refused -->\n```cpp\nc\n```\n"
 
 
 def breaches_of_reading():
@@ -40,7 +44,7 @@ def breaches_of_reading():
         check_samples.documents = lambda: [document]
         read = [found[1:] for found in check_samples.samples_of_documents()]
         check_samples.documents = markdown_blocks.documents
-    if read != [("a\n", "A\n"), ("b\n", None)]:
+    if read != [("a\n", False, "A\n"), ("b\n", False, None), ("c\n", True, None)]:
         yield f"read as {read}"
 
 
@@ -50,11 +54,15 @@ def main():
                "-I", str(check_samples.ROOT / "include")]
     with concurrent.futures.ThreadPoolExecutor(2) as pool:
         said = list(pool.map(
-            lambda case: check_samples.problem_of(case[0], case[1], command, library), CASES))
+            lambda case: check_samples.problem_of(case[0], False, case[1], command, library), CASES))
     breaches = list(breaches_of_reading())
     for (sample, _, expected), problem in zip(CASES, said):
         if bool(problem) != bool(expected) or expected not in (problem or ""):
             breaches.append(f"of\n{sample}is said:\n{problem}\nnot: {expected}")
+    for sample, expected in REFUSED_CASES:
+        problem = check_samples.problem_of(sample, True, None, command, library)
+        if problem != expected:
+            breaches.append(f"of\n{sample}that is refused is said:\n{problem}\nnot: {expected}")
     print(*breaches, sep="\n")
     return 1 if breaches else 0
 
