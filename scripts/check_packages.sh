@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/common.sh
+show_help "$@"
 
 need_packages "${BUILD_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}" "${PACKAGE_TEST_PACKAGES[@]}"
 packages=build/packages

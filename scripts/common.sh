@@ -52,6 +52,6 @@ WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-win32 g++-mingw-w64-x86-64-posix googlete
   python3 binutils llvm clang lld)
 BENCH_PACKAGES=(libbenchmark-dev python3 pkg-config libabsl-dev libfmt-dev libicu-dev icu-devtools
   libboost-locale-dev gettext libglib2.0-dev libsimdjson-dev)
-PACKAGING_PACKAGES=(dpkg-dev file python3)
+PACKAGING_PACKAGES=(dpkg-dev file python3 doxygen)
 # For the packages that are made: what looks at them, and what makes a system to install them into.
 PACKAGE_TEST_PACKAGES=(lintian mmdebstrap python3-jsonschema binutils)

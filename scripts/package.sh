@@ -18,18 +18,19 @@ export SOURCE_DATE_EPOCH
 export TZ=UTC
 umask 022
 
-# package NAME PRESET OPTION...: builds a preset for release and packs what it installs.
+# package NAME PRESET TARGET OPTION...: builds a preset for release and packs what it installs.
 package() {
-  local build=build/package-$1 preset=$2
-  shift 2
+  local build=build/package-$1 preset=$2 target=$3
+  shift 3
   echo "Building into $build."
   quietly cmake --preset "$preset" -B "$build" -DCMAKE_BUILD_TYPE=Release -DKXXLATE_TESTS=OFF "$@"
-  quietly cmake --build "$build"
+  quietly cmake --build "$build" --target all "$target"
   (cd "$build" && quietly cpack)
 }
 
-package linux release -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_DOCDIR=share/doc/kxxlate-doc
-package windows mingw
+# Pages of the headers and documents are for the Debian packages only, which have one for them.
+package linux release docs -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_DOCDIR=share/doc/kxxlate-doc
+package windows mingw all
 cp build/package-*/*.deb build/package-*/*.zip "$packages"
 version=$(sed -n 's/^project(KxXlate VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 packaging/make_sbom.py "$version" "$packages"

@@ -42,7 +42,7 @@ done
 "$(dirname "$0")/check_hardening.sh" fortified "$library" "$scratch/kxxlate-tools/usr/bin/kxxlate"
 grep -q 'All rights reserved. The owner has named no licence yet.' \
   "$scratch"/*/usr/share/doc/*/copyright || fail "No word on the licence."
-for name in README.md docs/markers.md examples/host.cpp examples/catalogues/resources; do
+for name in README.md docs/markers.md html/index.html examples/host.cpp examples/catalogues/resources; do
   [ -e "$scratch/kxxlate-doc/usr/share/doc/kxxlate-doc/$name" ] || fail "$name is not in kxxlate-doc."
 done
 echo "Contents of $names: as agreed; lintian is silent."
