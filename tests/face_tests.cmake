@@ -11,6 +11,11 @@ kxxlate_host_test(face_test
   face/translator_answers_test.cpp
   face/translator_references_test.cpp
   face/version_test.cpp)
+if(WIN32)
+  target_sources(face_test PRIVATE
+    face/windows_before_windows_test.cpp
+    face/windows_behind_windows_test.cpp)
+endif()
 set_source_files_properties(face/version_test.cpp PROPERTIES COMPILE_DEFINITIONS
   "KXXLATE_PROJECT_VERSION=\"${PROJECT_VERSION}\"")
 
@@ -41,3 +46,15 @@ if(NOT WIN32)
     KXXLATE_LISTING_HOST="$<TARGET_FILE:listing_host>")
   add_dependencies(face_search_test listing_host)
 endif()
+
+# With the compiler of this build, which hosts may have, too.
+foreach(standard IN ITEMS 17 20)
+  add_test(NAME Face.HeadersCompileAloneWithoutAWarningInCxx${standard}
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/face/check_headers.py
+      ${CMAKE_CXX_COMPILER} ${standard})
+  add_test(NAME Face.MisuseIsACompileErrorInCxx${standard}
+    COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/face/check_misuse.py
+      ${CMAKE_CXX_COMPILER} ${standard})
+  set_tests_properties(Face.HeadersCompileAloneWithoutAWarningInCxx${standard}
+    Face.MisuseIsACompileErrorInCxx${standard} PROPERTIES ${test_properties})
+endforeach()
