@@ -111,6 +111,14 @@ TEST_F(LogSwitch, AFileThatCannotBeOpenedIsStandardOutput) {
   ExpectNoUsualLog();
 }
 
+TEST_F(LogSwitch, IsNotWhatTheHostSetsLater) {
+  tree_.RunHostIn("product/bin", {"set", "KXXLATE_LOG", tree_.Path("my.log"),  //
+                                  "text", "agent", "fr", "ABSENT"});
+  EXPECT_EQ(Resources() + "agent_fr.properties key not found: ABSENT\n",
+            tree_.Read("product/log/translate.log"));
+  EXPECT_FALSE(tree_.Exists("my.log"));
+}
+
 TEST_F(LogSwitch, MakesNoFileWithoutAProblem) {
   tree_.SetEnvironment("KXXLATE_LOG", tree_.Path("my.log"));
   EXPECT_EQ("yes\n", tree_.RunHostIn("product/bin", {"text", "agent", "fr", "Present"}).output);

@@ -16,6 +16,7 @@
 //                                  directory, direction and prompt suffix, each followed by "|"
 //   id BUNDLE LOCALE               prints the translator's identifier
 //   remove FILE                    removes a file
+//   set NAME VALUE                 sets a variable of its environment
 //   shell COMMAND                  lets the system's shell run a command; prints whether it
 //   succeeded buffer                         gives standard error a large buffer, as some runtimes
 //   do vanish                         ends the process without anything that an orderly end does
@@ -40,6 +41,7 @@
 
 #include "CKxXlate.h"
 #include "process/host_steps.h"
+#include "support/set_environment.h"
 
 namespace {
 
@@ -156,6 +158,7 @@ HostSteps Host::Steps() {
       {"header", {2, [](const auto& a) { PrintHeader(a); }}},
       {"id", {2, [](const auto& a) { PrintId(a); }}},
       {"remove", {1, [](const auto& a) { std::filesystem::remove(HostPath(a[0])); }}},
+      {"set", {2, [](const auto& a) { SetVariable(a[0], a[1]); }}},
       {"shell", {1, [](const auto& a) { PrintTruth(std::system(a[0].c_str()) == 0); }}},
       {"buffer", {0, [](const auto&) { std::setvbuf(stderr, nullptr, _IOFBF, 1U << 16U); }}},
       {"vanish", {0, [](const auto&) { std::_Exit(0); }}},
