@@ -25,6 +25,7 @@ namespace kx {
 ///     Show(message.format("WELCOME_USER"));
 class Message {
  public:
+  /// As many as CKxXlate::Format inserts.
   static constexpr std::size_t kMostValues = 16;
 
   /// @param locale  as CKxXlate::GetBundle takes it

@@ -121,6 +121,7 @@ class Translator {
   [[nodiscard]] CKxXlate* get() const& noexcept { return raw_; }
   CKxXlate* get() && = delete;
 
+  /// Whether there is a translator.
   [[nodiscard]] explicit operator bool() const noexcept { return raw_ != nullptr; }
 
   /// Whether both stand for the same texts in memory.
@@ -198,13 +199,16 @@ class Translator {
 
   // What the translator says of itself; empty where it says nothing.
 
+  /// The bundle's name.
   [[nodiscard]] std::string_view name() const& { return Say<&CKxXlate::GetName>(); }
 
   /// The codes are in capitals from language files, as the file's name spells them from property
   /// bundles, and empty from a bundle's default.
   [[nodiscard]] std::string_view language() const& { return Say<&CKxXlate::GetLanguageCode>(); }
+  /// In the same spelling.
   [[nodiscard]] std::string_view country() const& { return Say<&CKxXlate::GetCountryCode>(); }
 
+  /// The language's name for people.
   [[nodiscard]] std::string_view long_name() const& { return Say<&CKxXlate::GetLongName>(); }
 
   /// "UTF-8" where it says nothing, since that is what it means.
@@ -213,6 +217,7 @@ class Translator {
     return said.empty() ? "UTF-8" : said;
   }
 
+  /// Where the language's images lie.
   [[nodiscard]] std::string_view image_directory() const& {
     return Say<&CKxXlate::GetImageDirectory>();
   }
@@ -220,6 +225,7 @@ class Translator {
   /// "LTR", "RTL" or empty.
   [[nodiscard]] std::string_view direction() const& { return Say<&CKxXlate::GetDirection>(); }
 
+  /// The text put behind prompts, such as ":".
   [[nodiscard]] std::string_view prompt_suffix() const& {
     return Say<&CKxXlate::GetPromptSuffix>();
   }
