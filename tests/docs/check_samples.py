@@ -27,17 +27,21 @@ from markdown_blocks import ROOT, blocks_of, documents
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Werror"]
 CATALOGUES = ROOT / "examples" / "catalogues"
 
+# What stands in front of each sample that is no program; compiled once, since the headers take longer
+# than all samples.
 FRAME = """
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
-static void Expect(std::string_view given, std::string_view expected) {
+inline void Expect(std::string_view given, std::string_view expected) {
   if (given == expected) return;
-  std::printf("gives \\"%%.*s\\"\\n", static_cast<int>(given.size()), given.data());
+  std::printf("gives \\"%.*s\\"\\n", static_cast<int>(given.size()), given.data());
   std::exit(1);
 }
+"""
+
+PROGRAM = """
 static void Sample([[maybe_unused]] void (*Show)(const char* text)) {
-  [[maybe_unused]] const auto expect = &Expect;
 %s}
 int main() {
   Sample([](const char* text) { std::puts(text); });
@@ -66,46 +70,69 @@ def samples_of_headers():
 
 def with_expectation(line):
     told = re.match(r"(?:.*?\b(\w+) = .*|\s*[\w:]+\((\w+), .*);  // (\"[^\"]*\")$", line)
-    return f"{line}\nexpect({told[1] or told[2]}, {told[3]});" if told else line
+    return f"{line}\nExpect({told[1] or told[2]}, {told[3]});" if told else line
+
+
+def is_program(sample):
+    return re.search(r"^int main\(", sample, re.M)
 
 
 def program_of(sample):
-    if re.search(r"^int main\(", sample, re.M):
+    if is_program(sample):
         return sample
     lines = sample.splitlines()
     includes = [line for line in lines if line.startswith("#include")]
-    public = [f"#include <{path.name}>" for path in sorted((ROOT / "include").glob("*.h*"))]
     body = [with_expectation(line) for line in lines if not line.startswith("#include")]
-    return "\n".join([*includes, *public, FRAME % ("\n".join(body) + "\n")])
+    return "\n".join([*includes, PROGRAM % ("\n".join(body) + "\n")])
 
 
-def refusal_problem_of(sample, command):
-    made = subprocess.run([*command, "-fsyntax-only", "-x", "c++", "-"], input=program_of(sample),
-                          text=True, check=False, capture_output=True)
-    return None if made.returncode else "compiles"
+class Samples:
+    """Compiles and runs samples; to be used as a context."""
 
+    def __init__(self, compiler, standard, library=None, options=()):
+        self.library = library
+        self.command = [compiler, f"-std=c++{standard}", *WARNINGS, *options, "-pthread",
+                        "-I", str(ROOT / "include")]
 
-def problem_of(sample, refused, printed, command, library):
-    """What is wrong with a sample, or nothing."""
-    if refused:
-        return refusal_problem_of(sample, command)
-    with tempfile.TemporaryDirectory() as folder:
-        if library:
+    def __enter__(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.frame = pathlib.Path(self.folder.name, "frame.h")
+        public = [f"#include <{path.name}>\n" for path in sorted((ROOT / "include").glob("*.h*"))]
+        self.frame.write_text("".join(public) + FRAME)
+        subprocess.run([*self.command, "-x", "c++-header", self.frame, "-o", f"{self.frame}.gch"],
+                       check=True)
+        return self
+
+    def __exit__(self, *_):
+        self.folder.cleanup()
+
+    def problem_of(self, sample, refused, printed):
+        """What is wrong with a sample, or nothing."""
+        if refused:
+            made = self.compile(sample, ["-fsyntax-only", "-x", "c++", "-"])
+            return None if made.returncode else "compiles"
+        with tempfile.TemporaryDirectory() as folder:
             program = str(pathlib.Path(folder, "sample"))
-            link = ["-x", "none", library, f"-Wl,-rpath,{pathlib.Path(library).parent}", "-pthread"]
-            command = [*command, "-x", "c++", "-", *link, "-o", program]
-        else:
-            command = [*command, "-fsyntax-only", "-x", "c++", "-"]
-        made = subprocess.run(command, input=program_of(sample), text=True, check=False,
-                              capture_output=True)
-        if made.returncode:
-            return f"does not compile:\n{made.stderr}"
-        if not library:
-            return None
-        environment = {**os.environ, "TAVI_XLATE_ROOT": str(CATALOGUES),
-                       "KXXLATE_LOG": str(pathlib.Path(folder, "log"))}
-        ran = subprocess.run([program], text=True, check=False, capture_output=True, cwd=folder,
-                             env=environment, timeout=60)
+            what = ["-fsyntax-only", "-x", "c++", "-"]
+            if self.library:
+                what = ["-x", "c++", "-", "-x", "none", self.library, "-o", program,
+                        f"-Wl,-rpath,{pathlib.Path(self.library).parent}"]
+            made = self.compile(sample, what)
+            if made.returncode:
+                return f"does not compile:\n{made.stderr}"
+            return problem_of_run(program, folder, printed) if self.library else None
+
+    def compile(self, sample, what):
+        frame = [] if is_program(sample) else ["-include", str(self.frame)]
+        return subprocess.run([*self.command, *frame, *what], input=program_of(sample), text=True,
+                              check=False, capture_output=True)
+
+
+def problem_of_run(program, folder, printed):
+    environment = {**os.environ, "TAVI_XLATE_ROOT": str(CATALOGUES),
+                   "KXXLATE_LOG": str(pathlib.Path(folder, "log"))}
+    ran = subprocess.run([program], text=True, check=False, capture_output=True, cwd=folder,
+                         env=environment, timeout=60)
     if ran.returncode or ran.stderr:
         return f"ends with {ran.returncode}:\n{ran.stdout}{ran.stderr}"
     if printed is not None and ran.stdout != printed:
@@ -116,10 +143,10 @@ def problem_of(sample, refused, printed, command, library):
 def main():
     compiler, standard, *rest = sys.argv[1:]
     library, options = (rest[0], rest[1:]) if rest else (None, [])
-    command = [compiler, f"-std=c++{standard}", *WARNINGS, *options, "-I", str(ROOT / "include")]
     found = [*samples_of_documents(), *samples_of_headers()]
-    with concurrent.futures.ThreadPoolExecutor(2) as pool:
-        problems = list(pool.map(lambda one: problem_of(*one[1:], command, library), found))
+    with Samples(compiler, standard, library, options) as samples, \
+            concurrent.futures.ThreadPoolExecutor(2) as pool:
+        problems = list(pool.map(lambda one: samples.problem_of(*one[1:]), found))
     for (name, sample, _, _), problem in zip(found, problems):
         if problem:
             print(f"{name}: this sample\n{sample}{problem}")

@@ -50,17 +50,15 @@ def breaches_of_reading():
 
 def main():
     compiler, library, *options = sys.argv[1:]
-    command = [compiler, "-std=c++17", *check_samples.WARNINGS, *options,
-               "-I", str(check_samples.ROOT / "include")]
-    with concurrent.futures.ThreadPoolExecutor(2) as pool:
-        said = list(pool.map(
-            lambda case: check_samples.problem_of(case[0], False, case[1], command, library), CASES))
+    with check_samples.Samples(compiler, 17, library, options) as samples, \
+            concurrent.futures.ThreadPoolExecutor(2) as pool:
+        said = list(pool.map(lambda case: samples.problem_of(case[0], False, case[1]), CASES))
+        refused = [samples.problem_of(sample, True, None) for sample, _ in REFUSED_CASES]
     breaches = list(breaches_of_reading())
     for (sample, _, expected), problem in zip(CASES, said):
         if bool(problem) != bool(expected) or expected not in (problem or ""):
             breaches.append(f"of\n{sample}is said:\n{problem}\nnot: {expected}")
-    for sample, expected in REFUSED_CASES:
-        problem = check_samples.problem_of(sample, True, None, command, library)
+    for (sample, expected), problem in zip(REFUSED_CASES, refused):
         if problem != expected:
             breaches.append(f"of\n{sample}that is refused is said:\n{problem}\nnot: {expected}")
     print(*breaches, sep="\n")
