@@ -12,6 +12,9 @@ if(WIN32)
   set(CPACK_STRIP_FILES ON)
   # The same files make the same zip, whenever and wherever it is made.
   set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/RepackZip.cmake)
+  # The tool has another's code in it.
+  install(FILES ${PROJECT_SOURCE_DIR}/packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT runtime)
   set(example_directory ${CMAKE_INSTALL_DOCDIR}/examples)
   install(FILES ${PROJECT_SOURCE_DIR}/examples/host.cpp DESTINATION ${example_directory}
     COMPONENT development)

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "KxXlateExport.h"
+#include "KxXlateValues.h"
 
 /// Size of a caller's buffer in bytes, the terminating NUL included; 32 bits on every platform.
 #if defined(_WIN32)
@@ -71,8 +72,7 @@ class KXXLATE_API CKxXlate {
   /// The character set of the texts, or null, which means UTF-8. Slot 6.
   virtual const char* GetCharset() = 0;
 
-  /// A number that is new whenever a language was read again; 0 for texts that never change.
-  /// Slot 7.
+  /// New whenever a language was read again; 0 for texts that never change. Slot 7.
   virtual std::uint32_t GetId() = 0;
 
   /// Where the language's images lie, or null. Slot 8.
@@ -122,17 +122,15 @@ class KXXLATE_API CKxXlate {
   /// Finds the translator of a bundle for a locale.
   ///
   /// The property bundles are asked first, with fallback (fr-CA, fr, then the bundle's default);
-  /// then the language files of that language and region; then the English ones. The call
-  /// therefore answers a translator for any name, and an unknown name is noticed only later, by
-  /// lookups that find nothing.
+  /// then the language files of that language and region; then the English ones. So any name has
+  /// a translator, and an unknown one is noticed only later, by lookups that find nothing.
   ///
   /// @param name    bundle name, in its exact case; null or "" answers null
   /// @param locale  "fr", "fr-CA" or "fr_CA", in any case; null or "" asks for a property bundle's
   ///                default or for English language files. "-" and "_" are not always the same:
   ///                agent_fil_PH.properties answers fil_PH, not fil-PH; hy_fr-CA is the language
   ///                hy_fr in CA, hy-fr-CA the language hy.
-  /// @return a translator with one reference for the caller, to be given back with Release; null
-  ///         only for an absent name
+  /// @return one reference for the caller, to be given back with Release; null only for no name
   ///
   /// Any thread, at any time. A property file is read by the first call for it, while other callers
   /// of that file wait, and never again. The first call for a language, and the first after one of
@@ -201,8 +199,7 @@ class KXXLATE_API CKxXlate {
   static void FormatMessageA(char* buffer, KxSize size, const char* format, std::size_t count,
                              const char** arguments);
 
-  /// As Insert, for an array of strings, of which the first 13 are used. A string ends at its first
-  /// NUL.
+  /// As Insert, for an array of strings, each up to its first NUL. The first 13 are used.
   static void FormatMessageA(char* buffer, KxSize size, const char* format, std::size_t count,
                              const std::string* arguments);
 
@@ -230,9 +227,8 @@ class KXXLATE_API CKxXlate {
   /// followed by ":" and a digit from 1 to 9: "%d:2 items in %s:1". The values are taken in the
   /// order in which the conversions stand in the text; the digit says which of them, counted in
   /// that order, is inserted in its place. A conversion without its digit takes its value all the
-  /// same and vanishes with the byte behind it, or with two if the first is ":". Whatever else
-  /// begins with "%" takes no value and vanishes with the byte behind it. A tenth conversion takes
-  /// none.
+  /// same and vanishes with the byte behind it, or with two if the first is ":". What else begins
+  /// with "%" takes no value and vanishes with the byte behind it. A tenth conversion takes none.
   ///
   /// @param buffer  filled with zeros, then with the result, cut to `size` - 1 bytes; a null
   ///                buffer or a size of 0 writes nothing
@@ -246,6 +242,10 @@ class KXXLATE_API CKxXlate {
   ///     char line[64];
   ///     CKxXlate::InsertVariable(line, sizeof line, "%s:1 has %d:2 files", "disk", 12);
   static void InsertVariable(char* buffer, KxSize size, const char* format, ...);
+
+  /// An object among the values, such as a std::string, does not compile.
+  template <class... Values, KxRefused<Values...> = 0>
+  static void InsertVariable(char*, KxSize, const char*, const Values&...);
 
   /// Inserts typed values into a message text, each in the form that its conversion asks for.
   ///
@@ -272,8 +272,8 @@ class KXXLATE_API CKxXlate {
   /// working. Language files are looked for here, too, if none have been looked for yet;
   /// docs/lang-files.md has the exception.
   ///
-  /// When it was loaded the library searched for a directory by itself (README.md), in a program
-  /// with more rights than its caller (set-user-ID, set-group-ID, file capabilities) only near the
+  /// When it was loaded the library searched by itself (docs/operating.md), in a program with more
+  /// rights than its caller (set-user-ID, set-group-ID, file capabilities) only near the
   /// executable: environment and working directory are the caller's choice. Nothing tells it so.
   ///
   /// @param directory  UTF-8; null answers false. A relative path is followed anew whenever a file

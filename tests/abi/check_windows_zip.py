@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Makes the zip for Windows twice, in two zones, and checks that both have the same bytes, that its
-files stand in the order of their names and have the time that was asked for, and that what can be
-loaded is protected and has nothing for debuggers.
+files stand in the order of their names and have the time that was asked for, that it tells whose code
+is in it, and that what can be loaded is protected and has nothing for debuggers.
 
 Usage: check_windows_zip.py BUILD_DIRECTORY PROTECTION_SCRIPT
 """
@@ -43,6 +43,8 @@ def breaches(build, protection, scratch):
     names = [entry.filename for entry in entries]
     if names != sorted(names):
         yield "the files are not in the order of their names"
+    if not any(name.endswith("/copyright") for name in names):
+        yield "nobody is told whose code is in it"
     for entry in entries:
         if entry.date_time != TIME_IN_ZIP:
             yield f"{entry.filename} has the time {entry.date_time}"

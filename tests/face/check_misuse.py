@@ -16,6 +16,7 @@ DROPPED = "this translator is dropped at the end of the statement"
 NO_SIZE = "a pointer does not tell how long the buffer is: pass its size behind it"
 NO_BUFFER = "a buffer must be an array of char, writable and of more than one byte"
 NO_TEXT = "this must be a text (char*, std::string, std::string_view)"
+NO_OBJECT = "an object cannot be a value here. Pass text.c_str(), or use kx::insert_variable"
 NO_VALUE = "a value must be a text (char*, std::string, std::string_view) or a number"
 
 # What stands before the statements of each row.
@@ -55,6 +56,11 @@ ROWS = [
     ('auto t = texts.text_or(key, std::string("x")); (void)t;',
      'auto t = texts.text_or(key, text); (void)t;',
      "this fallback is dropped at the end of the statement"),
+    # An object among the values of the raw interface.
+    ('CKxXlate::InsertVariable(line, sizeof line, key, 3, text);',
+     'CKxXlate::InsertVariable(line, sizeof line, key, 3, text.c_str());', NO_OBJECT),
+    ('CKxXlate::InsertVariable(line, sizeof line, key, std::string_view(key));',
+     'CKxXlate::InsertVariable(line, sizeof line, key);', NO_OBJECT),
     # Buffers whose size nobody tells, and those that are too narrow.
     ('(void)kx::insert_into(place, key).text;', '(void)kx::insert_into(place, 80, key).text;',
      NO_SIZE),

@@ -1,13 +1,15 @@
 #include <windows.h>
 
+#include <filesystem>
 #include <stdexcept>
 
 #include "support/set_environment.h"
-#include "support/temp_tree.h"
 
 namespace {
 
-std::wstring Wide(const std::string& text) { return PathFromUtf8(text).native(); }
+std::wstring Wide(const std::string& text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end())).native();
+}
 
 }  // namespace
 
