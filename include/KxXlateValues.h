@@ -16,8 +16,15 @@ struct KxValues {
 template <>
 struct KxValues<false> {};
 
+/// Whether any of them is an object. In words that compilers know whose default is C++14.
+template <class... Values>
+struct KxAnyObject : std::false_type {};
+template <class First, class... Rest>
+struct KxAnyObject<First, Rest...>
+    : std::conditional<std::is_class<First>::value, std::true_type, KxAnyObject<Rest...>>::type {};
+
 /// Names a type for values that are refused, and none for others.
 template <class... Values>
-using KxRefused = typename KxValues<std::disjunction_v<std::is_class<Values>...>>::Refused;
+using KxRefused = typename KxValues<KxAnyObject<Values...>::value>::Refused;
 
 #endif  // KX_XLATE_VALUES_H
