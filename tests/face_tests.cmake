@@ -1,5 +1,6 @@
 # The face for hosts in C++17: the headers, as a host sees them.
 kxxlate_host_test(face_test
+  face/fallback_chain_order_test.cpp
   face/insert_into_test.cpp
   face/insert_test.cpp
   face/insert_typed_test.cpp

@@ -36,7 +36,9 @@ template <class Bundle, class Locale>
   std::string current = where.Get() == nullptr ? "" : where.Get();
   for (;;) {
     Translator next = Translator::find(name.Get(), current);
-    if (next && std::find(chain.begin(), chain.end(), next) == chain.end()) {
+    if (next) {
+      // English answers for what is not installed, also ahead of what is ("de_AT" of "de_AT-1996").
+      chain.erase(std::remove(chain.begin(), chain.end(), next), chain.end());
       chain.push_back(std::move(next));
     }
     if (current.empty()) return chain;
