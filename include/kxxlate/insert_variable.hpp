@@ -86,7 +86,7 @@ inline std::string BuildFromSlots(std::string_view text, const std::string* slot
   const auto at = [text](std::size_t place) { return place < text.size() ? text[place] : '\0'; };
   std::string result;
   for (std::size_t place = 0; place < text.size() && result.size() <= most;) {
-    const std::size_t marker = std::min(text.find('%', place), text.size());
+    const std::size_t marker = (std::min)(text.find('%', place), text.size());
     result += text.substr(place, marker - place);
     place = marker + 2;
     if (!IsSlotLetter(at(marker + 1))) continue;

@@ -134,7 +134,7 @@ class OfferedLocales {
     for (const std::string& locale : locales) {
       std::string comparable = ComparableLocale(locale);
       if (comparable.empty() || accepted.Excludes(comparable)) continue;
-      longest_ = std::max(longest_, comparable.size());
+      longest_ = (std::max)(longest_, comparable.size());
       if (any_ == nullptr || (anyIsNamed_ && !accepted.Names(comparable))) {
         any_ = &locale;
         anyIsNamed_ = accepted.Names(comparable);

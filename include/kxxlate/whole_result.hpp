@@ -22,7 +22,8 @@ namespace kx::detail {
 /// whole, with its NUL behind them: each buffer here has a byte more than it says.
 class WholeResult {
  public:
-  static constexpr std::size_t kAll = std::numeric_limits<std::size_t>::max();
+  // In brackets, here and elsewhere, since the header of Windows makes macros of min and max.
+  static constexpr std::size_t kAll = (std::numeric_limits<std::size_t>::max)();
 
   /// @param run   called with a buffer and its size, until the result fits
   /// @param most  of a result with more bytes at least that many, and one, are enough
@@ -49,7 +50,7 @@ class WholeResult {
 
  private:
   static constexpr std::size_t kNearBytes = 512;
-  static constexpr std::size_t kMostBytes = std::numeric_limits<KxSize>::max();
+  static constexpr std::size_t kMostBytes = (std::numeric_limits<KxSize>::max)();
 
   template <class Run>
   void Grow(const Run& run, std::size_t most) {
@@ -57,7 +58,7 @@ class WholeResult {
     std::size_t room = kNearBytes;
     do {
       if (room == kMostBytes) throw std::length_error("kx: a text of more than 4 GiB");
-      room = std::min(room * 8, kMostBytes);
+      room = (std::min)(room * 8, kMostBytes);
       far_.resize(room);  // the string has one byte more, its terminator's
       run(far_.data(), static_cast<KxSize>(room));
       size_ = std::strlen(far_.data());
