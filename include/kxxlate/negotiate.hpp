@@ -163,7 +163,7 @@ class OfferedLocales {
   /// it.
   static std::string_view Cut(std::string_view range, std::size_t place) noexcept {
     if (place == std::string_view::npos) return {};
-    if (place > 2 && range[place - 2] == '-') place -= 2;
+    while (place > 2 && range[place - 2] == '-') place -= 2;
     return range.substr(0, place);
   }
 

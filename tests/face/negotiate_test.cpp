@@ -43,6 +43,7 @@ INSTANTIATE_TEST_SUITE_P(
         NegotiationCase{"Parent", "fr-CH", kSome, "fr"},
         NegotiationCase{"Grandparent", "fr-CA-x-private", kSome, "fr_CA"},
         NegotiationCase{"SingleLetterGoesWithWhatItIntroduces", "de-x-de", {"de-x", "de"}, "de"},
+        NegotiationCase{"SingleLettersGoTogether", "de-x-a-de", {"de-x", "de", "zh-Hant-TW"}, "de"},
         NegotiationCase{"NeverMoreSpecific", "zh", kSome, ""},
         NegotiationCase{"NotAPartOfAWord", "fra", kSome, ""},
         NegotiationCase{"SpelledAsInstalled", "zh-hant-tw", {"ZH_hANT_tw"}, "ZH_hANT_tw"},
