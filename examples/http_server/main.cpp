@@ -2,7 +2,11 @@
 //
 //     http_server [PORT]     a free port when none is given; the first line tells which
 //
-//     curl -H 'Accept-Language: fr-CA, en;q=0.5' 'localhost:PORT/welcome?name=Ann'
+// It finds its texts as any host does: from the folder of the examples,
+//
+//     TAVI_XLATE_ROOT=catalogues http_server 8080
+//
+//     curl -H 'Accept-Language: fr-CA, en;q=0.5' 'localhost:8080/welcome?name=Ann'
 //
 // Its texts are language files, which may be replaced while it runs: the next request shows the new
 // ones. SIGHUP makes it look for languages that were installed since; SIGTERM ends it.
@@ -11,6 +15,7 @@
 #include <pthread.h>
 #include <KxXlate.hpp>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
@@ -33,9 +38,13 @@ class Languages {
   Languages() { Look(); }
 
   void Look() {
-    auto found = std::make_shared<const std::vector<std::string>>(kx::locales(kBundle));
+    std::vector<std::string> found = kx::locales(kBundle);
+    // The first is what clients get that ask for "*".
+    std::stable_partition(found.begin(), found.end(),
+                          [](const auto& each) { return each == "EN"; });
+    auto shared = std::make_shared<const std::vector<std::string>>(std::move(found));
     const std::lock_guard guard(lock_);
-    found_ = std::move(found);
+    found_ = std::move(shared);
   }
 
   /// The translator for what a client's Accept-Language says; English when it names no language

@@ -32,6 +32,7 @@ PAGES = [
     ("FR-ca;q=0.5, tlh", "FR-CA", None, None),
     ("de;q=0, fr", "FR", "Bienvenue sur alpha, Ann.", None),
     ("tlh", "EN", "Welcome to alpha, Ann.", None),
+    ("*", "EN", "Welcome to alpha, Ann.", "User name:"),
     ("", "EN", "Welcome to alpha, Ann.", None),
     (";;q=x,,\x7f=,-", "EN", "Welcome to alpha, Ann.", None),
     ("x" * 4000, "EN", "Welcome to alpha, Ann.", None),
