@@ -1,7 +1,10 @@
 // The smallest host: greets in the locale given as first argument.
 //
 // The library finds the catalogues by itself: in a directory "resources" beside or above this
-// program, under TAVI_XLATE_ROOT, or in the working directory.
+// program, under TAVI_XLATE_ROOT, or in the working directory. Where the library is installed:
+//
+//     g++ -std=c++17 host.cpp -o host -lKxXlate
+//     TAVI_XLATE_ROOT=catalogues ./host fr-CA
 
 #include <KxXlate.hpp>
 

@@ -9,6 +9,15 @@ add_test(NAME Examples.ServerAnswersInEachLanguageWhileItsTextsAreReplaced
 set_tests_properties(Examples.ServerAnswersInEachLanguageWhileItsTextsAreReplaced PROPERTIES
   ${test_properties})
 
+# As the documents' package brings them.
+foreach(example IN ITEMS host http_server comparison)
+  set(test Examples.AreBuiltWithTheInstalledLibrary/${example})
+  add_test(NAME ${test}
+    COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/examples/build_installed.sh ${example}
+      ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
+  set_tests_properties(${test} PROPERTIES ${test_properties} ENVIRONMENT LC_ALL=C.UTF-8)
+endforeach()
+
 # kxxlate_greeting_test(NAME LIBRARY LOCALE LINE PROCESS_LOCALE)
 function(kxxlate_greeting_test name library locale line process_locale)
   add_test(NAME ${name} COMMAND greet_with_${library} ${locale})
