@@ -44,8 +44,11 @@ if(NOT WIN32)
   add_test(NAME Documents.CommandsThatFailAreFound
     COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_commands_test.py
       ${programs})
+  add_test(NAME Documents.TheManualPageTellsOfAllThatTheToolHas
+    COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_manual.py
+      $<TARGET_FILE:kxxlate>)
   set_tests_properties(Documents.CommandsDoWhatTheyShow Documents.CommandsThatFailAreFound
-    PROPERTIES ${test_properties})
+    Documents.TheManualPageTellsOfAllThatTheToolHas PROPERTIES ${test_properties})
 endif()
 
 # The pages are the same on every system.
