@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,12 @@
 #include "support/special_files.h"
 
 namespace {
+
+using Rights = std::filesystem::perms;
+
+constexpr Rights kSearch = Rights::owner_all | Rights::group_exec | Rights::others_exec;
+constexpr Rights kList = Rights::owner_all | Rights::group_read | Rights::others_read;
+constexpr Rights kSearchAndList = kSearch | kList;
 
 class ServiceRights : public testing::Test {
  protected:
@@ -25,6 +32,7 @@ class ServiceRights : public testing::Test {
     const std::string host = tree_.CopyProgram("bin", KXXLATE_UNLOADING_HOST);
     const std::string library = tree_.CopyProgram("bin", KXXLATE_LIBRARY);
     OpenToAllUsers(tree_.Path());
+    std::filesystem::permissions(tree_.Path("share/resources"), rightsOfResources_);
     std::vector<std::string> arguments = {"--reuid=65534", "--regid=65534", "--clear-groups"};
     arguments.insert(arguments.end(), rights.begin(), rights.end());
     for (const std::string& word :
@@ -39,6 +47,7 @@ class ServiceRights : public testing::Test {
   }
 
   HostTree tree_;
+  std::filesystem::perms rightsOfResources_ = kSearchAndList;
 };
 
 TEST_F(ServiceRights, ACapabilityOfItsUnitLeavesItTheVariables) {
@@ -46,6 +55,16 @@ TEST_F(ServiceRights, ACapabilityOfItsUnitLeavesItTheVariables) {
   const HostRun run =
       Run({"--inh-caps=+net_bind_service", "--ambient-caps=+net_bind_service"}, "Hello");
   EXPECT_EQ("Bonjour\nunloaded\n", run.output) << run.errors;
+}
+
+TEST_F(ServiceRights, FindsABundleWhereItMaySearchAndListItsDirectory) {
+  if (!IsSuperUser()) GTEST_SKIP() << "only the super-user can start another user's program";
+  tree_.SetEnvironment("KXXLATE_LOG", "off");
+  EXPECT_EQ("Bonjour\nunloaded\n", Run({}, "Hello").output);
+  for (const Rights rights : {kSearch, kList}) {
+    rightsOfResources_ = rights;
+    EXPECT_EQ("(null)\nunloaded\n", Run({}, "Hello").output);
+  }
 }
 
 TEST_F(ServiceRights, LinesOfItsLogAreOnStandardOutputWhereItMayNotWrite) {
