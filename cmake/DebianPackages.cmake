@@ -52,7 +52,7 @@ ${what_it_is}This package has the headers, and what CMake and pkg-config need to
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "translated message texts (command line)
 ${what_it_is}This package has kxxlate, which shows texts to people who write catalogues.")
 set(CPACK_DEBIAN_DOCUMENTATION_DESCRIPTION "translated message texts (documents and examples)
-${what_it_is}This package has the documents, an example host and example catalogues.")
+${what_it_is}This package has the documents, example hosts and example catalogues.")
 
 # What the packages of other hosts are to depend on, and that the system's list of libraries is renewed.
 set(control ${PROJECT_BINARY_DIR}/debian)

@@ -33,8 +33,15 @@ add_test(NAME Documents.LinksLeadToWhatIsThere
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_links.py)
 add_test(NAME Documents.LinksThatLeadNowhereAreFound
   COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_links_test.py)
-set_tests_properties(Documents.LinksLeadToWhatIsThere Documents.LinksThatLeadNowhereAreFound
-  PROPERTIES ${test_properties})
+# Who has the package has neither the sources nor what is around them.
+add_test(NAME Documents.LinksLeadToWhatIsInstalled
+  COMMAND sh -c "rm -rf \"$1\" && \"$0\" --install . --component documentation --prefix \"$1\" &&
+    exec \"$2\" \"$3\" \"$1/${CMAKE_INSTALL_DOCDIR}\""
+    ${CMAKE_COMMAND} ${PROJECT_BINARY_DIR}/installed_documents ${Python3_EXECUTABLE}
+    ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_links.py
+  WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
+set_tests_properties(Documents.LinksLeadToWhatIsThere Documents.LinksLeadToWhatIsInstalled
+  Documents.LinksThatLeadNowhereAreFound PROPERTIES ${test_properties})
 
 # What the documents tell a reader to run is about this system.
 if(NOT WIN32)
