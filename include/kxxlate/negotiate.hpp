@@ -201,6 +201,13 @@ class OfferedLocales {
   return {};
 }
 
+/// The same for a header that ends with a NUL; null, which many servers answer for a request
+/// without one, is an empty header.
+[[nodiscard]] inline std::string negotiate(const char* acceptLanguage,
+                                           const std::vector<std::string>& locales) {
+  return negotiate(std::string_view(acceptLanguage == nullptr ? "" : acceptLanguage), locales);
+}
+
 }  // namespace kx
 
 #endif  // KX_KXXLATE_NEGOTIATE_HPP

@@ -107,6 +107,12 @@ INSTANTIATE_TEST_SUITE_P(
                     NegotiationCase{"OtherBytes", "\xFF\xFE, ../../etc, de;q=0.1", kSome, "de"}),
     CaseName);
 
+TEST(FaceNegotiateAbsent, NoHeaderIsAnEmptyOne) {
+  const char* const absent = nullptr;
+  EXPECT_EQ("", kx::negotiate(absent, kSome));
+  EXPECT_EQ("", kx::negotiate(nullptr, kSome));
+}
+
 TEST(FaceNegotiateHostile, AnswersWhatIsInstalledOrNothing) {
   constexpr std::string_view kBytes = "fffrrrdee--__CCAA,,,;;q==01..*  \t\0\xC3";
   std::mt19937 random(12);
