@@ -65,17 +65,21 @@ Inserted InsertIntoPlace(char* buffer, Size size, const Rest&... rest) {
 
 /// The forms of a buffer: an array, which has its size, or a pointer and the size behind it.
 template <class Engine, class Buffer, class... Rest>
-Inserted InsertInto(Buffer& buffer, const Rest&... rest) {
-  using Plain = std::remove_cv_t<Buffer>;
+Inserted InsertInto(Buffer&& buffer, const Rest&... rest) {
+  using Whole = std::remove_reference_t<Buffer>;
+  using Plain = std::remove_cv_t<Whole>;
   if constexpr (std::is_pointer_v<Plain>) {
     static_assert(std::is_same_v<Plain, char*>, "kx: a buffer must be of char, and writable");
     static_assert(sizeof...(Rest) > 0,
                   "kx: a pointer does not tell how long the buffer is: pass its size behind it");
     return InsertIntoPlace<Engine>(buffer, rest...);
   } else {
-    static_assert(IsCharacterArray<Buffer>::value,
+    static_assert(IsCharacterArray<Whole>::value,
                   "kx: a buffer must be an array of char, writable and of more than one byte, or a "
                   "char* with its size behind it");
+    static_assert(std::is_lvalue_reference_v<Buffer>,
+                  "kx: this buffer is dropped at the end of the statement, and the text with it. "
+                  "Keep it in a variable");
     const std::size_t bytes = std::size(buffer);
     return CopyInto(std::data(buffer), bytes, Engine::Run(bytes, rest...).View());
   }

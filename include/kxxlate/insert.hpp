@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <tuple>
+#include <utility>
 
 #include "../CKxXlate.h"
 #include "buffer.hpp"
@@ -68,7 +69,7 @@ template <class Text, class... Values>
 ///     Show(again.text.data());
 template <class Buffer, class... Rest>
 Inserted insert_into(Buffer&& buffer, const Rest&... rest) {
-  return detail::InsertInto<detail::PositionalEngine>(buffer, rest...);
+  return detail::InsertInto<detail::PositionalEngine>(std::forward<Buffer>(buffer), rest...);
 }
 
 }  // namespace kx

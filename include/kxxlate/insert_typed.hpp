@@ -216,7 +216,7 @@ template <class Text, class... Values>
 /// The same into a buffer, in the forms and by the rules of kx::insert_into.
 template <class Buffer, class... Rest>
 Inserted insert_typed_into(Buffer&& buffer, const Rest&... rest) {
-  return detail::InsertInto<detail::TypedEngine>(buffer, rest...);
+  return detail::InsertInto<detail::TypedEngine>(std::forward<Buffer>(buffer), rest...);
 }
 
 }  // namespace kx

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 
 #include "../CKxXlate.h"
 #include "buffer.hpp"
@@ -166,7 +167,7 @@ template <class Text, class... Values>
 /// The same into a buffer, in the forms and by the rules of kx::insert_into.
 template <class Buffer, class... Rest>
 Inserted insert_variable_into(Buffer&& buffer, const Rest&... rest) {
-  return detail::InsertInto<detail::VariableEngine>(buffer, rest...);
+  return detail::InsertInto<detail::VariableEngine>(std::forward<Buffer>(buffer), rest...);
 }
 
 }  // namespace kx

@@ -71,6 +71,8 @@ ROWS = [
     ('wchar_t wide[80]; (void)kx::insert_into(wide, key).text;', '', NO_BUFFER),
     ('(void)kx::insert_into("literal", key).text;', '', NO_BUFFER),
     ('std::string s; (void)kx::insert_into(s, key).text;', '', NO_BUFFER),
+    ('(void)kx::insert_into(std::array<char, 80>(), key).text;',
+     'std::array<char, 80> a; (void)kx::insert_into(a, key).text;', "this buffer is dropped"),
     ('(void)kx::insert_into(key, 80, key).text;', '', "a buffer must be of char, and writable"),
     # Texts that may be none, and what is no text.
     ('auto t = kx::insert(texts.text(key), 1); (void)t;',
