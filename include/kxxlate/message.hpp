@@ -2,6 +2,7 @@
 #define KX_KXXLATE_MESSAGE_HPP
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -60,7 +61,9 @@ class Message {
     detail::CheckValue<Value>();
     if (xlate_.argCount == kMostValues) return false;
     const detail::TextOf<Value> text(value);
-    xlate_.args.append(text.Get() == nullptr ? "" : text.Get()).push_back('\0');
+    const char* const given = text.Get() == nullptr ? "" : text.Get();
+    // In one step with its NUL: a value for which there is no memory leaves nothing behind.
+    xlate_.args.append(given, std::strlen(given) + 1);
     ++xlate_.argCount;
     return true;
   }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -57,6 +59,25 @@ TEST_F(FaceMemory, TranslatorsGiveBackAllReferences) {
               const auto chain = kx::fallback_chain("tool", "en-GB");
               EXPECT_EQ("Hello, %0", texts.text_or("K", ""));
             }));
+}
+
+TEST_F(FaceMemory, AValueWithoutMemoryLeavesNothingInAMessage) {
+  for (const std::size_t size : {14U, 15U, 16U, 30U, 31U}) {
+    kx::Message message("tool", "en");
+    const std::string value(size, 'x');
+    FailAllocation(1);
+    bool isAdded = true;
+    try {
+      isAdded = message.add_value(value);
+    } catch (const std::bad_alloc&) {
+      isAdded = false;
+    }
+    FailAllocation(0);
+    EXPECT_TRUE(message.add_value("last"));
+    EXPECT_EQ(isAdded ? value + ", last" : "last", message.format(isAdded ? "%0, %1" : "%0"))
+        << size;
+  }
+  CKxXlate::FreeCache();
 }
 
 TEST_F(FaceMemory, LookupsAndShortResultsInABufferAskForNone) {
