@@ -159,7 +159,7 @@ template <class Bundle>
 /// The same for a host that has named its own directory, both kinds of catalogue in it.
 ///
 /// @param directory  UTF-8: what was passed to CKxXlate::SetResourceDirectory before the first
-///                   language was looked up
+///                   language was looked up; docs/lang-files.md tells where languages lie else
 template <class Bundle, class Directory>
 [[nodiscard]] std::vector<std::string> locales(const Bundle& bundle, const Directory& directory) {
   const detail::GivenText<Bundle> name(bundle);
