@@ -89,6 +89,10 @@ endif()
 
 get_property(checks DIRECTORY PROPERTY TESTS)
 set_tests_properties(${checks} PROPERTIES TIMEOUT 120)
+# What they install are also the pages, which must not be made anew meanwhile.
+set(installing ${checks})
+list(FILTER installing INCLUDE REGEX "^Library\\.IsFoundBy")
+set_tests_properties(${installing} PROPERTIES DEPENDS Documents.TheTargetDocsMakesThePages)
 if(DEFINED long_checks)
   set_tests_properties(${long_checks} PROPERTIES TIMEOUT 600)
 endif()

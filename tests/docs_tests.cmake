@@ -42,6 +42,8 @@ add_test(NAME Documents.LinksLeadToWhatIsInstalled
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 set_tests_properties(Documents.LinksLeadToWhatIsThere Documents.LinksLeadToWhatIsInstalled
   Documents.LinksThatLeadNowhereAreFound PROPERTIES ${test_properties})
+set_tests_properties(Documents.LinksLeadToWhatIsInstalled PROPERTIES
+  DEPENDS Documents.TheTargetDocsMakesThePages)
 
 # What the documents tell a reader to run is about this system.
 if(NOT WIN32)

@@ -15,7 +15,8 @@ foreach(example IN ITEMS host http_server comparison)
   add_test(NAME ${test}
     COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/examples/build_installed.sh ${example}
       ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
-  set_tests_properties(${test} PROPERTIES ${test_properties} ENVIRONMENT LC_ALL=C.UTF-8)
+  set_tests_properties(${test} PROPERTIES ${test_properties} ENVIRONMENT LC_ALL=C.UTF-8
+    DEPENDS Documents.TheTargetDocsMakesThePages)
 endforeach()
 
 # kxxlate_greeting_test(NAME LIBRARY LOCALE LINE PROCESS_LOCALE)
