@@ -42,8 +42,6 @@ add_test(NAME Documents.LinksLeadToWhatIsInstalled
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
 set_tests_properties(Documents.LinksLeadToWhatIsThere Documents.LinksLeadToWhatIsInstalled
   Documents.LinksThatLeadNowhereAreFound PROPERTIES ${test_properties})
-set_tests_properties(Documents.LinksLeadToWhatIsInstalled PROPERTIES
-  DEPENDS Documents.TheTargetDocsMakesThePages)
 
 # What the documents tell a reader to run is about this system.
 if(NOT WIN32)
@@ -60,8 +58,8 @@ if(NOT WIN32)
     Documents.TheManualPageTellsOfAllThatTheToolHas PROPERTIES ${test_properties})
 endif()
 
-# The pages are the same on every system.
-if(NOT WIN32)
+# The pages are the same on every system, and from every build.
+if(NOT WIN32 AND NOT KXXLATE_SANITIZE)
   find_package(Doxygen REQUIRED)
   add_test(NAME Documents.PagesOfHeadersAreMadeWithoutAWarningAndTheSameEverywhere
     COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_CURRENT_SOURCE_DIR}/docs/check_pages.py
@@ -72,4 +70,6 @@ if(NOT WIN32)
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR})
   set_tests_properties(Documents.PagesOfHeadersAreMadeWithoutAWarningAndTheSameEverywhere
     Documents.TheTargetDocsMakesThePages PROPERTIES ${test_properties})
+  set_tests_properties(Documents.LinksLeadToWhatIsInstalled PROPERTIES
+    DEPENDS Documents.TheTargetDocsMakesThePages)
 endif()
